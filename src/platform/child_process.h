@@ -1,0 +1,51 @@
+// A child process and the one pipe that carries what it prints.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace platform {
+
+/// Waits until `descriptor` has something to read or its other end is closed, or until `milliseconds` have
+/// passed (negative: without limit). It may return early; it never reads.
+using WaitHook = std::function<void(int descriptor, int milliseconds)>;
+
+/// Sets what a blocking read does while there is nothing to read, so that windows can be repainted meanwhile.
+/// An empty hook brings back the plain wait.
+void setWaitHook(WaitHook hook);
+
+/// One child, from its start to the end of its output. Its standard output and standard error share one pipe,
+/// its standard input is the null device. It gets a session of its own and ignores SIGPIPE, so that it finishes
+/// its work when this process ends first. It is reaped by the system and never waited for. No shell is involved.
+///
+/// The child starts on one processor: FFmpeg sizes the thread pool of a filter graph by the processors it may
+/// use, and many small filters then spend their time in handshakes. Half a second later all its threads may use
+/// every processor that this process may use. Where the system refuses either, nothing else changes.
+class ChildProcess {
+ public:
+  ChildProcess() = default;
+  ~ChildProcess() { close(); }
+  ChildProcess(const ChildProcess&) = delete;
+  ChildProcess& operator=(const ChildProcess&) = delete;
+
+  /// Starts `commandLine` (see `parseCommand`). False, with nothing left open, where no child could be started.
+  bool start(const std::string& commandLine);
+
+  /// Blocks until the child has printed something or its output has ended; copies at most `size` bytes into
+  /// `buffer` and returns their number, 0 at the end of the output or after any failure.
+  std::size_t read(char* buffer, std::size_t size);
+
+  /// Lets go of the pipe; the child runs on.
+  void close();
+
+ private:
+  void widenWhenDue();
+
+  int output_ = -1;
+  int tasks_ = -1;
+  std::chrono::steady_clock::time_point widenAt_;
+};
+
+}  // namespace platform

@@ -1,0 +1,23 @@
+// What the program asks of the file system beside its profile file.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// The form of an existing file's absolute path that survives the splitting of a command line (see
+/// `quoteArgument`). Empty where the file does not exist.
+std::string shortPath(const std::string& longPath);
+
+/// The path that `shortPath` was made from. Empty for an empty text.
+std::string longPath(std::string_view shortPath);
+
+/// True where both paths lead to one existing file, by whatever names and links.
+bool sameFile(const std::string& one, const std::string& other);
+
+/// Creates or empties the file and writes `content`. False where that fails; never waits for a reader of a
+/// named pipe.
+bool writeFile(const std::string& path, std::string_view content);
+
+}  // namespace platform

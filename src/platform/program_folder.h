@@ -1,0 +1,21 @@
+// Where the program lives, and how the paths composed behind its folder become paths of this system.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// The folder of the name by which the program was started: absolute, symbolic links not resolved, no
+/// separator at its end unless it is the root. An installed copy can so live in a per-user folder of links
+/// beside its tools and its presets.
+const std::string& programFolder();
+
+/// Puts another folder in its place, for a process that acts for a program that lives elsewhere.
+void setProgramFolder(std::string folder);
+
+/// `path` as a path of this system: behind the program's own folder `\` separates folders, everywhere else it
+/// is an ordinary character of a name.
+std::string nativePath(std::string_view path);
+
+}  // namespace platform

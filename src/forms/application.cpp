@@ -1,0 +1,102 @@
+#include "forms/application.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QSettings>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <cstdlib>
+
+#include "forms/clipboard.h"
+#include "forms/look.h"
+
+namespace forms {
+namespace {
+
+QApplication* application = nullptr;
+int waits = 0;
+bool ended = false;
+
+class Wait {
+ public:
+  Wait() { ++waits; }
+  ~Wait() { --waits; }
+  Wait(const Wait&) = delete;
+  Wait& operator=(const Wait&) = delete;
+};
+
+}  // namespace
+
+Application::Application() {
+  static char name[] = "tessavane";
+  static char* arguments[] = {name, nullptr};
+  static int count = 1;
+
+  QApplication::setDesktopSettingsAware(false);
+  QApplication::setAttribute(Qt::AA_Use96Dpi);
+  // The file dialog would keep its own settings in the user's home; the program keeps none.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+  // With the other event dispatcher a paint-only wait would let timers through. Children do not see the
+  // change.
+  const bool glibUnset = qEnvironmentVariableIsEmpty("QT_NO_GLIB");
+  if (glibUnset) qputenv("QT_NO_GLIB", "1");
+  application = new QApplication(count, arguments);
+  if (glibUnset) qunsetenv("QT_NO_GLIB");
+  applyLook(*application);
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Application::~Application() {
+  delete application;
+  application = nullptr;
+}
+
+int Application::run() {
+  return QApplication::exec();
+}
+
+void Application::doEvents() {
+  QCoreApplication::processEvents();
+}
+
+void Application::waitPainting(int descriptor, int milliseconds) {
+  const Wait held;
+  constexpr auto kPaintOnly = QEventLoop::ExcludeUserInputEvents;
+  if (milliseconds == 0) {
+    QCoreApplication::processEvents(kPaintOnly);
+    return;
+  }
+  bool over = false;
+  QSocketNotifier readable(descriptor, QSocketNotifier::Read);
+  QObject::connect(&readable, &QSocketNotifier::activated, [&] {
+    readable.setEnabled(false);
+    over = true;
+  });
+  QTimer limit;
+  limit.setSingleShot(true);
+  QObject::connect(&limit, &QTimer::timeout, [&] { over = true; });
+  if (milliseconds > 0) limit.start(milliseconds);
+  while (!over) QCoreApplication::processEvents(kPaintOnly | QEventLoop::WaitForMoreEvents);
+}
+
+bool Application::holdsBack() {
+  return waits > 0 || ended;
+}
+
+void Application::end() {
+  ended = true;
+  // The desktop asks a process for the text that it copied; on the way out it is handed to a clipboard
+  // manager.
+  if (application != nullptr && QApplication::clipboard()->ownsClipboard()) delete application;
+  std::_Exit(0);
+}
+
+void Clipboard::clear() {
+  QApplication::clipboard()->clear();
+}
+
+void Clipboard::setText(const std::string& text) {
+  QApplication::clipboard()->setText(toQt(text));
+}
+
+}  // namespace forms

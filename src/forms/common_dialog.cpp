@@ -1,0 +1,76 @@
+#include "forms/common_dialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QLineEdit>
+
+#include "forms/form.h"
+#include "forms/look.h"
+#include "forms/surface.h"
+
+namespace forms {
+namespace {
+
+/// A file dialog that takes the typed name literally: no quotes, no list of names, no home folder, no
+/// question.
+class NameDialog : public QFileDialog {
+ public:
+  explicit NameDialog(QWidget* parent) : QFileDialog(parent) {
+    setOption(DontUseNativeDialog);
+    setOption(DontConfirmOverwrite);
+    setFileMode(AnyFile);
+    connect(this, &QFileDialog::filterSelected, this, &NameDialog::widenFilter);
+  }
+
+  const QString& chosen() const { return chosen_; }
+
+  /// Every name matches "*.*", a name without a point too.
+  void widenFilter() {
+    auto* model = findChild<QFileSystemModel*>();
+    if (model != nullptr && selectedNameFilter().contains("(*.*)")) model->setNameFilters({"*"});
+  }
+
+ protected:
+  void accept() override {
+    auto* line = findChild<QLineEdit*>("fileNameEdit");
+    const QString typed = line != nullptr ? line->text() : QString();
+    if (typed.isEmpty()) return;
+    const QString path = QDir(directory()).absoluteFilePath(typed);
+    if (QFileInfo(path).isDir()) {
+      setDirectory(path);
+      line->clear();
+      return;
+    }
+    chosen_ = path;
+    QDialog::accept();
+  }
+
+ private:
+  QString chosen_;
+};
+
+QStringList nameFilters(const QString& pairs) {
+  QStringList filters;
+  const QStringList parts = pairs.split('|');
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) filters += parts[i];
+  return filters;
+}
+
+}  // namespace
+
+void CommonDialog::show(bool save) {
+  const auto alive = form()->shared_from_this();
+  NameDialog dialog(form()->surface("")->window());
+  dialog.setWindowTitle(toQt(title_));
+  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  const QStringList filters = nameFilters(toQt(filter_));
+  dialog.setNameFilters(filters);
+  if (filterIndex_ >= 1 && filterIndex_ <= filters.size()) dialog.selectNameFilter(filters[filterIndex_ - 1]);
+  dialog.setDirectory(toQt(initDir_));
+  dialog.widenFilter();
+  if (dialog.exec() == QDialog::Accepted) fileName_ = fromQt(dialog.chosen());
+}
+
+}  // namespace forms

@@ -1,0 +1,106 @@
+// What every control has: a place on its container, a look, and mouse events.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/form_data.h"
+
+class QWidget;
+
+namespace forms {
+
+class Form;
+class MouseFilter;
+class Surface;
+
+/// A handler of an event; it gets the index of the control in its array, 0 for a control that is in none.
+using Event = std::function<void(int index)>;
+
+/// Whatever stands on a form, visible or not.
+class Item {
+ public:
+  Item(Form* form, int index) : form_(form), index_(index) {}
+  virtual ~Item() = default;
+  Item(const Item&) = delete;
+  Item& operator=(const Item&) = delete;
+
+  int index() const { return index_; }
+  Form* form() const { return form_; }
+
+ protected:
+  /// Runs the handler while the form stays alive; nothing happens on a form that is not loaded.
+  void raise(const Event& event) const;
+
+ private:
+  Form* form_;
+  int index_;
+};
+
+/// A control with a widget of its own. Geometry counts in the scale of its container; a negative width or
+/// height changes nothing. `Visible` is the control's own flag, whether or not its window shows.
+class Control : public Item {
+ public:
+  ~Control() override;
+
+  double left() const { return left_; }
+  double top() const { return top_; }
+  double width() const { return width_; }
+  double height() const { return height_; }
+  void setLeft(double left);
+  void setTop(double top);
+  void setWidth(double width);
+  void setHeight(double height);
+
+  bool visible() const { return visible_; }
+  void setVisible(bool visible);
+  bool enabled() const;
+  void setEnabled(bool enabled);
+  Color foreColor() const { return fore_; }
+  void setForeColor(Color color);
+  Color backColor() const { return back_; }
+  void setBackColor(Color color);
+  double fontSize() const { return fontSize_; }
+  /// Size of the text in points, at 96 points to 72 pixels.
+  void setFontSize(double points);
+  const std::string& toolTipText() const { return toolTip_; }
+  void setToolTipText(const std::string& text);
+  void setFocus();
+  /// Brings the control to the front of its container.
+  void zOrder();
+
+  Event onMouseMove;
+  Event onMouseUp;
+
+  QWidget* widget() const { return widget_; }
+
+  /// Takes the handlers of another member of the same array.
+  virtual void adoptHandlers(const Control& other);
+
+ protected:
+  /// Takes over `widget` and puts it into the container of `data`; `form` is null for a control that stands
+  /// nowhere.
+  Control(Form* form, const ControlData& data, QWidget* widget);
+
+  /// Called when size, text or font have changed.
+  virtual void refit() {}
+  void setExtent(double left, double width, double height);
+  double unitsPerPixel() const;
+  virtual void applyColors();
+
+ private:
+  friend class MouseFilter;
+  void place();
+
+  QWidget* widget_;
+  MouseFilter* filter_;
+  Surface* container_ = nullptr;
+  double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+  bool visible_ = true;
+  Color back_, fore_;
+  bool transparent_;
+  double fontSize_;
+  std::string toolTip_;
+};
+
+}  // namespace forms

@@ -1,0 +1,123 @@
+#include "forms/form_surface.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "forms/application.h"
+#include "forms/form.h"
+#include "forms/look.h"
+
+namespace forms {
+namespace {
+
+/// What the desktop put around the last window that it showed: the best guess for the next one.
+QMargins lastFrame;
+
+}  // namespace
+
+FormSurface::FormSurface(Form& form, const FormData& formData)
+    : Surface(nullptr, false, formData.scale), form_(form), oneSize_(formData.oneSize) {
+  Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
+  if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
+  if (formData.maximiseButton) flags |= Qt::WindowMaximizeButtonHint;
+  setWindowFlags(flags);
+  setObjectName(formData.name);
+  setMouseTracking(true);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, toQt(formData.back));
+  setPalette(colors);
+  resize(formData.width / kTwipsPerPixel, formData.height / kTwipsPerPixel);
+}
+
+QMargins FormSurface::frame() const {
+  return windowHandle() != nullptr && isVisible() ? windowHandle()->frameMargins() : lastFrame;
+}
+
+QSize FormSurface::outerSize() const {
+  return size().grownBy(frame());
+}
+
+void FormSurface::applyOuterSize() {
+  assumedFrame_ = frame();
+  const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
+  asked_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
+  if (oneSize_) {
+    setFixedSize(asked_);
+  } else {
+    resize(asked_);
+  }
+}
+
+void FormSurface::standBeside(const FormSurface* owner) {
+  winId();
+  if (owner != nullptr) windowHandle()->setTransientParent(owner->windowHandle());
+  applyOuterSize();
+  const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
+  QRect place({0, 0}, outerSize());
+  place.moveCenter((owner != nullptr ? owner->frameGeometry() : screenArea).center());
+  move(std::max(place.left(), screenArea.left()), std::max(place.top(), screenArea.top()));
+  told_ = size();
+}
+
+void FormSurface::bringForward() {
+  if (isMinimized()) {
+    showNormal();
+  } else {
+    show();
+  }
+  raise();
+  activateWindow();
+}
+
+void FormSurface::settle() {
+  if (!isVisible()) return;
+  if (Application::holdsBack()) {
+    QTimer::singleShot(20, this, [this] { settle(); });
+    return;
+  }
+  const bool wasMinimised = std::exchange(minimised_, isMinimized());
+  if (minimised_) {
+    if (!wasMinimised) form_.raise(form_.onResize);
+    return;
+  }
+  lastFrame = frame();
+  // The frame came after the size was asked for: the outer size stays and the inner one gives way.
+  if (lastFrame != assumedFrame_ && size() == asked_) applyOuterSize();
+  if (size() == told_ && !wasMinimised) return;
+  told_ = size();
+  form_.takeOuterSize(outerSize().width() * kTwipsPerPixel, outerSize().height() * kTwipsPerPixel);
+}
+
+bool FormSurface::event(QEvent* event) {
+  const bool handled = Surface::event(event);
+  switch (event->type()) {
+    case QEvent::MouseMove:
+      if (form_.isLoaded() && !Application::holdsBack() && form_.onMouseMove) {
+        const auto alive = form_.shared_from_this();
+        form_.onMouseMove(0);
+      }
+      break;
+    case QEvent::Show:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowActivate:
+    case QEvent::WindowStateChange:
+      settle();
+      break;
+    default:
+      break;
+  }
+  return handled;
+}
+
+void FormSurface::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!Application::holdsBack()) form_.unload();
+}
+
+}  // namespace forms

@@ -1,0 +1,102 @@
+#include "forms/label.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QPalette>
+#include <cmath>
+
+#include "forms/look.h"
+
+namespace forms {
+namespace {
+
+Qt::Alignment toQt(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::Right:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case Alignment::Centre:
+      return Qt::AlignHCenter | Qt::AlignVCenter;
+    default:
+      return Qt::AlignLeft | Qt::AlignVCenter;
+  }
+}
+
+QLabel* makeLabel() {
+  auto* label = new QLabel;
+  label->setTextFormat(Qt::PlainText);
+  label->setMinimumSize(0, 0);
+  return label;
+}
+
+class Outline : public QWidget {
+ public:
+  Outline() { setAttribute(Qt::WA_TransparentForMouseEvents); }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+};
+
+}  // namespace
+
+Label::Label(Form* form, const ControlData& data)
+    : Control(form, data, makeLabel()),
+      alignment_(data.look.alignment),
+      autoSize_(data.look.autoSize),
+      elided_(data.look.elided),
+      clear_(data.look.transparent) {
+  static_cast<QLabel*>(widget())->setAlignment(toQt(alignment_));
+  applyColors();
+  setCaption(data.text != nullptr ? data.text : "");
+}
+
+void Label::setCaption(const std::string& caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  widget()->setAccessibleName(forms::toQt(caption));
+  refit();
+}
+
+void Label::setAlignment(Alignment alignment) {
+  if (alignment_ == alignment) return;
+  alignment_ = alignment;
+  static_cast<QLabel*>(widget())->setAlignment(toQt(alignment));
+}
+
+void Label::setAutoSize(bool autoSize) {
+  if (autoSize_ == autoSize) return;
+  autoSize_ = autoSize;
+  if (autoSize_) fitToText();
+}
+
+void Label::setTransparent(bool transparent) {
+  clear_ = transparent;
+  applyColors();
+}
+
+void Label::applyColors() {
+  Control::applyColors();
+  widget()->setAutoFillBackground(!clear_);
+}
+
+void Label::refit() {
+  auto* label = static_cast<QLabel*>(widget());
+  const QString text = forms::toQt(caption_);
+  label->setText(elided_ ? label->fontMetrics().elidedText(text, Qt::ElideMiddle, label->width()) : text);
+  if (autoSize_) fitToText();
+}
+
+void Label::fitToText() {
+  const QFontMetricsF metrics(widget()->font());
+  const double needed = std::ceil(metrics.horizontalAdvance(forms::toQt(caption_))) * unitsPerPixel();
+  const double shares[] = {0, 1, 0.5};
+  const double shift = (width() - needed) * shares[static_cast<int>(alignment_)];
+  setExtent(left() + shift, needed, std::ceil(metrics.height()) * unitsPerPixel());
+}
+
+Shape::Shape(Form* form, const ControlData& data) : Control(form, data, new Outline) {}
+
+}  // namespace forms

@@ -1,0 +1,43 @@
+// A caption on a container, and the outline of a rectangle.
+#pragma once
+
+#include "forms/control.h"
+
+namespace forms {
+
+/// Plain text, never markup. A label that sizes itself keeps the edge, or the centre, that its alignment
+/// names.
+class Label : public Control {
+ public:
+  Label(Form* form, const ControlData& data);
+
+  const std::string& caption() const { return caption_; }
+  void setCaption(const std::string& caption);
+  Alignment alignment() const { return alignment_; }
+  void setAlignment(Alignment alignment);
+  bool autoSize() const { return autoSize_; }
+  void setAutoSize(bool autoSize);
+  /// True: what lies behind the label shows through.
+  void setTransparent(bool transparent);
+
+ protected:
+  void refit() override;
+  void applyColors() override;
+
+ private:
+  void fitToText();
+
+  std::string caption_;
+  Alignment alignment_;
+  bool autoSize_;
+  bool elided_;
+  bool clear_;
+};
+
+/// The outline of its extent. It is no target for the mouse.
+class Shape : public Control {
+ public:
+  Shape(Form* form, const ControlData& data);
+};
+
+}  // namespace forms

@@ -1,0 +1,91 @@
+#include "forms/look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOptionSlider>
+
+namespace forms {
+namespace {
+
+constexpr QRgb kFace = 0xFFD8D8D8;
+constexpr QRgb kFocus = 0xFF3070C0;
+
+/// Sliders keep an empty groove: what is coloured beside them are the program's own bars.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_Slider || slider == nullptr) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+      return;
+    }
+    QStyleOptionSlider part = *slider;
+    part.subControls = slider->subControls & ~SC_SliderHandle;
+    part.palette.setColor(QPalette::Highlight, QColor(0xB8B8B8));
+    QProxyStyle::drawComplexControl(control, &part, painter, widget);
+    part = *slider;
+    part.subControls = SC_SliderHandle;
+    QProxyStyle::drawComplexControl(control, &part, painter, widget);
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    // Labels in a read-out change many times a second and are no menu: nothing here fades or animates.
+    if (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+QPalette lightPalette() {
+  QPalette palette{QColor(kFace)};
+  palette.setColor(QPalette::Window, QColor(kFace));
+  palette.setColor(QPalette::Button, QColor(kFace));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Highlight, QColor(kFocus));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFFFFE1));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
+    palette.setColor(role, Qt::black);
+    palette.setColor(QPalette::Disabled, role, QColor(0x707070));
+  }
+  return palette;
+}
+
+}  // namespace
+
+QColor toQt(Color color) {
+  switch (color) {
+    case kButtonFace:
+      return QColor(kFace);
+    case kButtonText:
+    case kWindowText:
+      return Qt::black;
+    case kWindowBackground:
+      return Qt::white;
+    default:
+      return QColor(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
+                    static_cast<int>(color >> 16 & 0xFF));
+  }
+}
+
+QFont fontOf(double points, bool bold) {
+  // Liberation Sans has the widths of Arial, so that the layout is the same with either.
+  QFont font(QStringList{"Arial", "Liberation Sans", "Arimo", "Helvetica"});
+  font.setPointSizeF(points);
+  font.setBold(bold);
+  return font;
+}
+
+void applyLook(QApplication& application) {
+  QApplication::setStyle(new Style);
+  QApplication::setPalette(lightPalette());
+  application.setFont(fontOf(8.25, false));
+}
+
+}  // namespace forms

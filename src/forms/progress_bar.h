@@ -1,0 +1,22 @@
+// A bar that fills.
+#pragma once
+
+#include "forms/control.h"
+
+namespace forms {
+
+/// Starts at 0 of 0 to 100. A value outside `Min`..`Max` and a `Max` not above `Min` change nothing.
+class ProgressBar : public Control {
+ public:
+  ProgressBar(Form* form, const ControlData& data);
+
+  double value() const { return value_; }
+  void setValue(double value);
+  double max() const { return max_; }
+  void setMax(double max);
+
+ private:
+  double value_ = 0, max_ = 100;
+};
+
+}  // namespace forms

@@ -1,0 +1,35 @@
+// A box for text of one line (shown, not edited) or of many.
+#pragma once
+
+#include "forms/control.h"
+
+namespace forms {
+
+/// The text is kept here; the widget gets it when it is next shown, so that many assignments in a row lay out
+/// one document. Lines end in carriage return and line feed once the user has edited the box.
+class TextBox : public Control {
+ public:
+  TextBox(Form* form, const ControlData& data);
+
+  const std::string& text() const { return text_; }
+  /// A different text raises Change before the assignment returns.
+  void setText(const std::string& text);
+  /// Puts the cursor before the character with this number, counted from 0.
+  void setSelStart(int position);
+
+  Event onChange;
+
+ private:
+  friend class TextBoxFilter;
+  void syncSoon();
+  void sync();
+  void edited();
+
+  std::string text_;
+  bool multiLine_;
+  bool stale_ = false;
+  bool queued_ = false;
+  bool syncing_ = false;
+};
+
+}  // namespace forms

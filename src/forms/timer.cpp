@@ -1,0 +1,42 @@
+#include "forms/timer.h"
+
+#include <QTimer>
+
+#include "forms/application.h"
+#include "forms/form.h"
+
+namespace forms {
+
+Timer::Timer(Form* form, const TimerData& data)
+    : Item(form, kSingle),
+      timer_(std::make_unique<QTimer>()),
+      interval_(data.interval),
+      enabled_(data.enabled) {
+  timer_->setTimerType(Qt::PreciseTimer);
+  QObject::connect(timer_.get(), &QTimer::timeout, [this] {
+    if (ticking_ || Application::holdsBack() || !this->form()->isLoaded()) return;
+    const auto alive = this->form()->shared_from_this();
+    ticking_ = true;
+    raise(onTick);
+    ticking_ = false;
+  });
+  if (enabled_ && interval_ > 0) timer_->start(interval_);
+}
+
+Timer::~Timer() = default;
+
+bool Timer::enabled() const {
+  return enabled_;
+}
+
+void Timer::setEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  if (enabled && interval_ > 0) {
+    timer_->start(interval_);
+  } else {
+    timer_->stop();
+  }
+}
+
+}  // namespace forms

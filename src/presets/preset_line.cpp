@@ -1,0 +1,58 @@
+#include "presets/preset_line.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "core/text.h"
+
+namespace {
+
+/// Gain slider positions are worth 20 percent each.
+constexpr double kPercentPerPosition = 20;
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+/// The whole of `text` as a number; a plus sign is no obstacle.
+template <class Number>
+std::optional<Number> parsed(std::string_view text) {
+  text = trimmed(text);
+  if (text.size() > 1 && text.front() == '+' && text[1] != '-') text.remove_prefix(1);
+  Number number{};
+  const char* const end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, number);
+  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+std::vector<std::string_view> presetElements(std::string_view line) {
+  std::vector<std::string_view> elements;
+  for (;;) {
+    const auto colon = line.find(':');
+    elements.push_back(line.substr(0, colon));
+    if (colon == std::string_view::npos) return elements;
+    line.remove_prefix(colon + 1);
+  }
+}
+
+std::string_view presetField(std::string_view line, std::string_view marker, std::size_t count) {
+  const auto hit = std::ranges::search(line, marker, {}, lowerAscii, lowerAscii);
+  if (hit.empty()) return {};
+  return line.substr(static_cast<std::size_t>(hit.end() - line.begin()), count);
+}
+
+std::optional<long long> wholeNumber(std::string_view text) {
+  return parsed<long long>(text);
+}
+
+std::optional<long long> gainPosition(std::string_view percent) {
+  const auto number = parsed<double>(percent);
+  if (!number || !std::isfinite(*number)) return std::nullopt;
+  return std::llround(*number / kPercentPerPosition);
+}

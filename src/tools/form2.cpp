@@ -1,0 +1,94 @@
+#include "tools/form2.h"
+
+#include <algorithm>
+#include <charconv>
+#include <vector>
+
+#include "core/app_state.h"
+#include "forms/application.h"
+#include "mainwindow/form1.h"
+#include "platform/files.h"
+#include "platform/program_folder.h"
+#include "tools/command_lines.h"
+#include "tools/form2_data.h"
+#include "tools/tool_output.h"
+
+forms::Window<RenderWindow> Form2;
+
+namespace {
+
+/// Targets of the renders that are running, as long paths. Renders nest on the one stack.
+std::vector<std::string> targets;
+
+class Rendering {
+ public:
+  explicit Rendering(const std::string& shortPath) { targets.push_back(platform::longPath(shortPath)); }
+  ~Rendering() { targets.pop_back(); }
+  Rendering(const Rendering&) = delete;
+  Rendering& operator=(const Rendering&) = delete;
+};
+
+/// Decimal digits as a number; 0 for an empty text.
+double number(const std::string& digits) {
+  double value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
+}
+
+}  // namespace
+
+bool isBeingRendered(const std::string& path) {
+  return std::ranges::any_of(targets,
+                             [&](const std::string& target) { return platform::sameFile(target, path); });
+}
+
+RenderWindow::RenderWindow()
+    : Form(kForm2Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {
+  onLoad = [this] { Form_Load(); };
+  Command1.onClick = [this](int) { Command1_Click(); };
+  Timer1.onTick = [this](int) { Timer1_Timer(); };
+}
+
+void RenderWindow::Form_Load() {
+  setHeight(3420);
+  setWidth(6900);
+  setIcon(Form1->icon());
+  PBar.setMax(number(AppState.SourceSeconds));
+  Timer1.setEnabled(true);
+}
+
+void RenderWindow::Command1_Click() {
+  unload();
+}
+
+void RenderWindow::Timer1_Timer() {
+  objDOS.set(std::make_shared<DOSOutputs>());
+  DosCommand();
+  Timer1.setEnabled(false);
+}
+
+void RenderWindow::DosCommand() {
+  const auto runner = objDOS.get();
+  runner->setCommandLine(renderCommand(platform::programFolder(), AppState));
+  {
+    const Rendering rendering(AppState.SavePathShort);
+    runner->ExecuteCommand("");
+  }
+  Label1(2).setCaption("Progress: 100% Completed");
+  PBar.setValue(0);
+  objDOS.clear();
+}
+
+void RenderWindow::objDOS_ReceiveOutputs(const std::string& CommandOutputs) {
+  forms::Application::doEvents();
+  // Closed meanwhile: the rest of the run has nobody to tell.
+  if (!isLoaded()) return;
+  const std::string_view time = progressTime(CommandOutputs);
+  if (time.empty()) return;
+  const auto value = static_cast<float>(PBar.value());
+  const auto max = static_cast<float>(PBar.max());
+  if (const auto seconds = secondsOfTime(time)) PBar.setValue(*seconds);
+  const std::string percent = percentText(value, max);
+  Label1(2).setCaption("Progress: " + percent + "% Completed");
+  Form1->setCaption(AppState.WindowMinimised ? "Velm:  " + percent + "%" : "No Caption Set");
+}

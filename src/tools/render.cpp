@@ -1,0 +1,34 @@
+#include "tools/render.h"
+
+#include "core/app_state.h"
+#include "mainwindow/form1.h"
+#include "platform/files.h"
+#include "tools/dialogs.h"
+#include "tools/form2.h"
+#include "tools/source.h"
+
+namespace {
+
+/// A short path can be had only of a file that exists.
+constexpr auto kMarker = "<%TEMPOutPutData%>\r\n";
+
+}  // namespace
+
+void SaveAsFile() {
+  forms::CommonDialog& dialog = Form1->CDialog;
+  prepareDialog("Save As", "WAV Files (*.wav)|*.wav|WMA Files (*.wma)|*.wma|All File Types (*.*)|*.*", 1);
+  dialog.showSave();
+  if (dialog.fileName().empty()) return;
+
+  AppState.SavePath = dialog.fileName();
+  if (platform::sameFile(AppState.SavePath, platform::longPath(AppState.SourcePathShort))) {
+    // Under one and the same name the tool sees that it would overwrite what it reads, and refuses.
+    AppState.SavePathShort = AppState.SourcePathShort;
+  } else {
+    if (!isBeingRendered(AppState.SavePath)) platform::writeFile(AppState.SavePath, kMarker);
+    AppState.SavePathShort = GetShortPath(AppState.SavePath);
+  }
+  Form2.load();
+  Form2->Label1(1).setCaption(AppState.SavePathShort);
+  Form2->show(&*Form1);
+}

@@ -1,0 +1,75 @@
+#include "tools/tool_output.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "core/text.h"
+
+namespace {
+
+constexpr std::string_view kDuration = "Duration:";
+constexpr std::string_view kTime = "time";
+constexpr std::size_t kTimeLength = 8;
+
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+/// At most `count` characters from `from`; empty behind the end.
+std::string_view part(std::string_view text, std::size_t from, std::size_t count) {
+  return from < text.size() ? text.substr(from, count) : std::string_view();
+}
+
+std::string secondsText(std::string_view time) {
+  const auto seconds = secondsOfTime(time);
+  return seconds ? std::to_string(*seconds) : std::string();
+}
+
+}  // namespace
+
+std::optional<int> secondsOfTime(std::string_view text) {
+  if (text.size() != kTimeLength || text[2] != ':' || text[5] != ':') return std::nullopt;
+  std::array<int, 3> fields{};
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const char tens = text[3 * i];
+    const char ones = text[3 * i + 1];
+    if (!isDigit(tens) || !isDigit(ones)) return std::nullopt;
+    fields[i] = (tens - '0') * 10 + (ones - '0');
+  }
+  const auto [hours, minutes, seconds] = fields;
+  if (hours > 23 || minutes > 59 || seconds > 59) return std::nullopt;
+  return (hours * 60 + minutes) * 60 + seconds;
+}
+
+std::optional<std::string> durationSeconds(std::string_view output) {
+  const auto hit = output.find(kDuration);
+  if (hit == std::string_view::npos) return std::nullopt;
+  return secondsText(part(output, hit + kDuration.size() + 1, kTimeLength));
+}
+
+std::optional<std::string> durationSecondsOfRun(std::string_view output) {
+  std::optional<std::string> found;
+  for (auto rest = output; (!found || found->empty()) && rest.find(kDuration) != std::string_view::npos;
+       rest.remove_prefix(rest.find(kDuration) + kDuration.size())) {
+    found = durationSeconds(rest);
+  }
+  return found;
+}
+
+std::string_view progressTime(std::string_view piece) {
+  const auto hit = std::ranges::search(piece, kTime, {}, lowerAscii);
+  if (hit.empty()) return {};
+  const auto place = static_cast<std::size_t>(hit.begin() - piece.begin());
+  return part(piece, place + kTime.size() + 1, kTimeLength);
+}
+
+std::string percentText(float value, float max) {
+  const double percent = static_cast<double>(value) / (static_cast<double>(max) / 100);
+  if (!std::isfinite(percent)) return "00.00";
+  std::array<char, 64> buffer{};
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), percent, std::chars_format::fixed, 2).ptr;
+  return padded({buffer.data(), end}, 5);
+}

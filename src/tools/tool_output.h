@@ -1,0 +1,24 @@
+// What the program reads out of the tools' output, and the numbers that it makes of it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Seconds from 00:00:00 to `hh:mm:ss`, hours up to 23. None for any other text, a shorter one included.
+std::optional<int> secondsOfTime(std::string_view text);
+
+/// Whole seconds behind the first "Duration:" of `output`, as decimal digits, or the empty text where no time
+/// stands there. None without a "Duration:".
+std::optional<std::string> durationSeconds(std::string_view output);
+
+/// The same from a whole run's output, in which a tag's text can hold the word before the tool's own line
+/// does: a "Duration:" that no time follows is passed over as long as another comes.
+std::optional<std::string> durationSecondsOfRun(std::string_view output);
+
+/// The 8 characters behind the first "time" of `piece`, in any case, and the one character that follows it;
+/// or what there is of them.
+std::string_view progressTime(std::string_view piece);
+
+/// `value` in percent of `max`: at least two digits before the point and two behind it, "04.50", "100.00".
+std::string percentText(float value, float max);

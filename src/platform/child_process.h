@@ -6,6 +6,8 @@
 #include <functional>
 #include <string>
 
+#include "platform/descriptor.h"
+
 namespace platform {
 
 /// Waits until `descriptor` has something to read or its other end is closed, or until `milliseconds` have
@@ -17,20 +19,18 @@ using WaitHook = std::function<void(int descriptor, int milliseconds)>;
 void setWaitHook(WaitHook hook);
 
 /// One child, from its start to the end of its output. Its standard output and standard error share one pipe,
-/// its standard input is the null device. It gets a session of its own and ignores SIGPIPE, so that it finishes
-/// its work when this process ends first. It is reaped by the system and never waited for. No shell is involved.
+/// its standard input is the null device. It gets a session of its own and ignores SIGPIPE, so that it
+/// finishes its work when this process ends first. It is reaped by the system and never waited for: from the
+/// first start on this process ignores SIGPIPE, and no call that waits for a child can learn how one ended.
+/// No shell is involved.
 ///
 /// The child starts on one processor: FFmpeg sizes the thread pool of a filter graph by the processors it may
-/// use, and many small filters then spend their time in handshakes. Half a second later all its threads may use
-/// every processor that this process may use. Where the system refuses either, nothing else changes.
+/// use, and many small filters then spend their time in handshakes. Half a second later all its threads may
+/// use every processor that this process may use. Where the system refuses either, nothing else changes.
 class ChildProcess {
  public:
-  ChildProcess() = default;
-  ~ChildProcess() { close(); }
-  ChildProcess(const ChildProcess&) = delete;
-  ChildProcess& operator=(const ChildProcess&) = delete;
-
-  /// Starts `commandLine` (see `parseCommand`). False, with nothing left open, where no child could be started.
+  /// Starts `commandLine` (see `parseCommand`), and lets go of an earlier child. False, with nothing left
+  /// open, where no child could be started.
   bool start(const std::string& commandLine);
 
   /// Blocks until the child has printed something or its output has ended; copies at most `size` bytes into
@@ -41,10 +41,12 @@ class ChildProcess {
   void close();
 
  private:
+  void waitForOutput() const;
   void widenWhenDue();
 
-  int output_ = -1;
-  int tasks_ = -1;
+  Descriptor output_;
+  /// The child's folder of threads, held open until the child may use every processor.
+  Descriptor tasks_;
   std::chrono::steady_clock::time_point widenAt_;
 };
 

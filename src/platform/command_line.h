@@ -12,8 +12,8 @@ namespace platform {
 /// A quote that is never closed groups to the end. No text makes it fail.
 std::vector<std::string> splitArguments(std::string_view commandLine);
 
-/// `argument` in a form that `splitArguments` gives back as one argument: unchanged where it has no blank, tab
-/// or double quote, else in double quotes with inner quotes doubled.
+/// `argument` in a form that `splitArguments` gives back as one argument: unchanged where it is not empty and
+/// has no blank, tab or double quote, else in double quotes with inner quotes doubled.
 std::string quoteArgument(std::string_view argument);
 
 /// A command line taken apart for a process start.
@@ -25,9 +25,9 @@ struct Command {
 };
 
 /// Splits `commandLine` and finds its program. A name that begins with the program's own folder is read up to
-/// the first blank or tab behind that folder, so that the folder's name may have blanks. `\` separates folders
-/// in the program's name, and ".exe" may be missing or too much. Nothing is looked up anywhere else: not in the
-/// search path, and a name that is not absolute finds nothing.
+/// the first blank or tab behind that folder, so that the folder's name may have blanks. `\` separates
+/// folders in the program's name, and ".exe" may be missing or too much. Nothing is looked up anywhere else:
+/// not in the search path, and a name that is not absolute finds nothing.
 Command parseCommand(std::string_view commandLine);
 
 }  // namespace platform

@@ -8,14 +8,17 @@ namespace platform {
 
 /// The folder of the name by which the program was started: absolute, symbolic links not resolved, no
 /// separator at its end unless it is the root. An installed copy can so live in a per-user folder of links
-/// beside its tools and its presets.
+/// beside its tools and its presets. A relative name counts from the current folder at the first call.
 const std::string& programFolder();
 
-/// Puts another folder in its place, for a process that acts for a program that lives elsewhere.
-void setProgramFolder(std::string folder);
+/// Puts another folder, absolute, in its place, for a process that acts for a program that lives elsewhere.
+void setProgramFolder(std::string_view folder);
 
-/// `path` as a path of this system: behind the program's own folder `\` separates folders, everywhere else it
-/// is an ordinary character of a name.
+/// True where `path` begins with the program's folder and one of the characters `separators` behind it.
+bool isBehindProgramFolder(std::string_view path, std::string_view separators);
+
+/// `path` as a path of this system: where `\` stands behind the program's own folder, it and every `\` after
+/// it separate folders; everywhere else it is an ordinary character of a name.
 std::string nativePath(std::string_view path);
 
 }  // namespace platform

@@ -4,7 +4,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QTreeView>
 
 #include "forms/form.h"
 #include "forms/look.h"
@@ -22,6 +24,9 @@ class NameDialog : public QFileDialog {
     setOption(DontConfirmOverwrite);
     setFileMode(AnyFile);
     connect(this, &QFileDialog::filterSelected, this, &NameDialog::widenFilter);
+    resize(720, 440);
+    // By itself the list cuts sizes and dates short.
+    if (auto* list = findChild<QTreeView*>()) list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
 
   const QString& chosen() const { return chosen_; }

@@ -54,14 +54,22 @@ void FormSurface::applyOuterSize() {
 }
 
 void FormSurface::standBeside(const FormSurface* owner) {
-  winId();
-  if (owner != nullptr) windowHandle()->setTransientParent(owner->windowHandle());
   applyOuterSize();
   const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
-  QRect place({0, 0}, outerSize());
-  place.moveCenter((owner != nullptr ? owner->frameGeometry() : screenArea).center());
-  move(std::max(place.left(), screenArea.left()), std::max(place.top(), screenArea.top()));
+  centre_ = (owner != nullptr ? owner->frameGeometry() : screenArea).center();
+  centre();
+  if (owner != nullptr) {
+    winId();
+    windowHandle()->setTransientParent(owner->windowHandle());
+  }
   told_ = size();
+}
+
+void FormSurface::centre() {
+  QRect place({0, 0}, outerSize());
+  place.moveCenter(centre_);
+  const QRect screenArea = screen()->availableGeometry();
+  move(std::max(place.left(), screenArea.left()), std::max(place.top(), screenArea.top()));
 }
 
 void FormSurface::bringForward() {
@@ -87,7 +95,10 @@ void FormSurface::settle() {
   }
   lastFrame = frame();
   // The frame came after the size was asked for: the outer size stays and the inner one gives way.
-  if (lastFrame != assumedFrame_ && size() == asked_) applyOuterSize();
+  if (lastFrame != assumedFrame_ && size() == asked_) {
+    applyOuterSize();
+    if (!std::exchange(centred_, true)) centre();
+  }
   if (size() == told_ && !wasMinimised) return;
   told_ = size();
   form_.takeOuterSize(outerSize().width() * kTwipsPerPixel, outerSize().height() * kTwipsPerPixel);

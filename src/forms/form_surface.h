@@ -30,6 +30,7 @@ class FormSurface : public Surface {
 
  private:
   QMargins frame() const;
+  void centre();
   void settle();
 
   Form& form_;
@@ -37,6 +38,8 @@ class FormSurface : public Surface {
   QMargins assumedFrame_;
   QSize asked_;
   QSize told_;
+  QPoint centre_;
+  bool centred_ = false;
   bool minimised_ = false;
 };
 

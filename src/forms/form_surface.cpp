@@ -75,10 +75,11 @@ void FormSurface::centre() {
 void FormSurface::bringForward() {
   if (isMinimized()) {
     showNormal();
+  } else if (isVisible()) {
+    raise();
   } else {
     show();
   }
-  raise();
   activateWindow();
 }
 

@@ -4,13 +4,13 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sched.h>
-#include <signal.h>
 #include <spawn.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <csignal>
 #include <cstring>
 #include <utility>
 #include <vector>
@@ -87,7 +87,7 @@ class StartPlan {
   StartPlan& operator=(const StartPlan&) = delete;
 
   /// Process id of the new child, -1 where there is none.
-  pid_t run(const Command& command) const {
+  [[nodiscard]] pid_t run(const Command& command) const {
     std::vector<char*> arguments;
     for (const std::string& argument : command.arguments) {
       arguments.push_back(const_cast<char*>(argument.c_str()));

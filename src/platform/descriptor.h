@@ -15,8 +15,8 @@ class Descriptor {
   Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
   Descriptor& operator=(Descriptor&& other) noexcept;
 
-  int number() const { return number_; }
-  bool isOpen() const { return number_ >= 0; }
+  [[nodiscard]] int number() const { return number_; }
+  [[nodiscard]] bool isOpen() const { return number_ >= 0; }
 
   /// Gives the descriptor to the caller, who has to close it.
   int release() { return std::exchange(number_, -1); }

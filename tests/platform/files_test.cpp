@@ -54,7 +54,7 @@ TEST(Files, WriteFileReplacesTheContentAndNeverWaits) {
 
 TEST(ProgramFolder, BackslashSeparatesBehindItAlone) {
   const support::OwnFolder own;
-  const std::string folder = own.path();
+  const std::string& folder = own.path();
   EXPECT_EQ(platform::nativePath(folder + "\\a\\b"), folder + "/a/b");
   for (const std::string& path : {folder, folder + "/a\\b", folder + "x\\b", std::string("/a\\b")}) {
     EXPECT_EQ(platform::nativePath(path), path);

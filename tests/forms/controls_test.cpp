@@ -1,0 +1,138 @@
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QLabel>
+#include <cmath>
+#include <unistd.h>
+
+#include "support/session.h"
+
+namespace {
+
+using Controls = support::Session;
+
+TEST_F(Controls, OptionsRaiseClickByHandAlwaysAndByAssignmentOnlyForADifference) {
+  std::string clicks;
+  for (int i = 0; i < 2; ++i) {
+    Form1->Option2(i).onClick = [&clicks](int index) { clicks += std::to_string(index); };
+  }
+  click(Form1->Option2(0));
+  EXPECT_EQ(clicks, "0") << "a click on the selected one";
+  Form1->Option2(0).setValue(true);
+  EXPECT_EQ(clicks, "0");
+  Form1->Option2(0).setValue(false);
+  EXPECT_EQ(clicks, "0");
+  EXPECT_FALSE(Form1->Option2(0).value() || Form1->Option2(1).value()) << "the group is empty";
+  Form1->Option2(1).setValue(true);
+  EXPECT_EQ(clicks, "01");
+  Form1->Option2(1).setFocus();
+  key(Form1->Option2(1), Qt::Key_Up);
+  EXPECT_TRUE(Form1->Option2(0).value()) << "arrow keys walk the group";
+  EXPECT_EQ(clicks, "010");
+  EXPECT_TRUE(Form1->Option3(1).value() && Form1->Option1(0).value()) << "other containers are other groups";
+}
+
+TEST_F(Controls, TextIsTextWhateverItHolds) {
+  const std::string nasty = "<b>&x.wav & <%y%>";
+  forms::Label& label = Form1->Label7(0);
+  label.setCaption(nasty);
+  Form1->Command1(8).setCaption(nasty);
+  EXPECT_EQ(static_cast<QLabel*>(label.widget())->text().toStdString(), nasty);
+  EXPECT_EQ(static_cast<QLabel*>(label.widget())->textFormat(), Qt::PlainText);
+  EXPECT_TRUE(QKeySequence::mnemonic(qobject_cast<QAbstractButton*>(Form1->Command1(8).widget())->text()).isEmpty());
+}
+
+TEST_F(Controls, WhatCannotBeDoneIsNotDone) {
+  forms::ProgressBar& bar = Form2->PBar;
+  bar.setValue(60);
+  for (const double wrong : {-1.0, 100.5, std::nan("")}) {
+    bar.setValue(wrong);
+    EXPECT_EQ(bar.value(), 60) << wrong;
+  }
+  for (const double wrong : {0.0, -5.0, 1e300}) {
+    bar.setMax(wrong);
+    EXPECT_EQ(bar.max(), 100) << wrong;
+  }
+  forms::Label& label = Form1->Label7(0);
+  const double height = label.height();
+  label.setHeight(-1);
+  EXPECT_EQ(label.height(), height);
+  Form1->Label7.load(3);
+  Form1->Label7.load(-1);
+  EXPECT_EQ(Form1->Label7.count(), 8);
+  Form1->setWidth(-3);
+  EXPECT_EQ(Form1->width(), 17550);
+}
+
+TEST_F(Controls, TimersTickOnceAtATimeAndNotDuringAPaintOnlyWait) {
+  forms::Timer& timer = Form1->Timer3;
+  int ticks = 0;
+  int depth = 0;
+  timer.onTick = [&](int) {
+    EXPECT_EQ(++depth, 1) << "a tick inside a tick";
+    ++ticks;
+    QTest::qWait(30);
+    --depth;
+  };
+  timer.setEnabled(true);
+  EXPECT_TRUE(support::waitFor([&] { return ticks >= 2; }));
+  const int before = ticks;
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  forms::Application::waitPainting(ends[0], 60);
+  EXPECT_EQ(ticks, before);
+  close(ends[1]);
+  forms::Application::waitPainting(ends[0], -1);
+  close(ends[0]);
+  timer.setEnabled(false);
+}
+
+TEST_F(Controls, APaintOnlyWaitPaintsAndHoldsBackInputAndClosing) {
+  QWidget* label = Form1->Label7(0).widget();
+  struct Painted : QObject {
+    int times = 0;
+    bool eventFilter(QObject*, QEvent* event) override { return times += event->type() == QEvent::Paint, false; }
+  } painted;
+  label->installEventFilter(&painted);
+  Form1->Slider3.widget()->setFocus();
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  support::waitFor([] { return QApplication::activeWindow() != nullptr; });
+  painted.times = 0;
+  label->update();
+  QTest::simulateEvent(label->window(), true, Qt::Key_PageUp, Qt::NoModifier, "", false);
+  forms::Application::waitPainting(ends[0], 50);
+  EXPECT_GT(painted.times, 0);
+  EXPECT_TRUE(Form1.isLoaded());
+  std::string order;
+  Form1->onQueryUnload = [&] { order += "closed"; };
+  QCloseEvent close;
+  {
+    QTimer::singleShot(1, [&] { QApplication::sendEvent(label->window(), &close); });
+    forms::Application::waitPainting(ends[0], 50);
+  }
+  EXPECT_EQ(order, "") << "a close inside the wait";
+  ::close(ends[0]);
+  ::close(ends[1]);
+}
+
+TEST_F(Controls, ALoadedWindowComesBackFreshAfterAnUnloadOfWhichHandlersHearOnce) {
+  std::string order;
+  const auto first = Form3.current() ? Form3.current() : (Form3.load(), Form3.current());
+  Form3->onQueryUnload = [&] { order += "Q", Form3.unload(); };
+  Form3->onUnload = [&] { order += "U", Form3->Text1.setText("still there"); };
+  Form3->show(&*Form1);
+  first->Text1.widget()->window()->close();
+  EXPECT_EQ(order, "QU");
+  EXPECT_FALSE(Form3.isLoaded());
+  EXPECT_EQ(Form3->Text1.text(), "") << "a reference loads a new one";
+  EXPECT_NE(Form3.current(), first);
+}
+
+TEST_F(Controls, AUnloadInsideAnEventOfTheWindowItselfIsSafe) {
+  Form3->show(&*Form1);
+  click(Form3->Command1(1));
+  EXPECT_FALSE(Form3.isLoaded());
+  forms::Application::doEvents();
+}
+
+}  // namespace

@@ -1,0 +1,76 @@
+#include "tools/tool_output.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+
+#include "tools/command_lines.h"
+
+namespace {
+
+TEST(ToolOutput, ReadsATimeOnlyWhereAllOfItIsOne) {
+  const std::pair<const char*, int> times[] = {{"00:00:00", 0}, {"00:03:21", 201}, {"01:00:00", 3600}, {"23:59:59", 86399}};
+  for (const auto& [text, seconds] : times) EXPECT_EQ(secondsOfTime(text), seconds) << text;
+  for (const char* text : {"", "00:03:2", "24:00:00", "00:60:00", "00:00:60", "-0:00:01", "N/A bitr", "00.00.00",
+                           "00:0a:00", " 0:00:01", "00:00:000"}) {
+    EXPECT_EQ(secondsOfTime(text), std::nullopt) << text;
+  }
+}
+
+TEST(ToolOutput, FindsTheDurationAsTheToolsWriteIt) {
+  const struct {
+    const char* output;
+    std::optional<std::string> first, ofRun;
+  } rows[] = {
+      {"  Duration: 00:03:21.45, start: 0.000000", "201", "201"},
+      {"Duration: 01:00:00.99", "3600", "3600"},
+      {"Duration: 00:00:00.40", "0", "0"},
+      {"duration: 00:03:21", std::nullopt, std::nullopt},
+      {"Duration: 00:00:05 Duration: 00:00:09", "5", "5"},
+      {"Duration:", "", ""},
+      {"Duration: 00:03:2", "", ""},
+      {"Duration: N/A, bitrate: N/A", "", ""},
+      {"Duration: 25:00:00.00", "", ""},
+      {"title: Duration: long\n  Duration: 00:00:07.00", "", "7"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(durationSeconds(row.output), row.first) << row.output;
+    EXPECT_EQ(durationSecondsOfRun(row.output), row.ofRun) << row.output;
+  }
+}
+
+TEST(ToolOutput, FindsTheFirstTimeOfAPieceInAnyCase) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"size= 1kB time=00:01:00.05 bitrate", "00:01:00"}, {"TIME=00:00:01.00", "00:00:01"},
+      {"runtime exceeded", "exceeded"},                    {"time=", ""},
+      {"time=00:0", "00:0"},                               {"tim", ""},
+      {"time=-00:00:01.00 time=00:00:05", "-00:00:0"},     {"", ""}};
+  for (const auto& [piece, expected] : rows) EXPECT_EQ(progressTime(piece), expected) << piece;
+}
+
+/// Number texts are the same whatever the locale.
+TEST(ToolOutput, WritesPercentAndGainWithAPointInEveryLocale) {
+  for (const char* locale : {"C", "de_DE.UTF-8"}) {
+    if (std::setlocale(LC_ALL, locale) == nullptr) continue;
+    const std::tuple<float, float, const char*> percents[] = {
+        {0.F, 201.F, "00.00"}, {60.F, 201.F, "29.85"}, {120.F, 201.F, "59.70"}, {201.F, 201.F, "100.00"}, {9.F, 100.F, "09.00"}};
+    for (const auto& [value, max, text] : percents) EXPECT_EQ(percentText(value, max), text) << locale;
+    const std::pair<double, const char*> gains[] = {{1, "1"}, {0.6, "0.6"}, {7 / 5.0, "1.4"}, {-7 / 5.0, "-1.4"}, {0, "0"}, {-2, "-2"}};
+    for (const auto& [gain, text] : gains) EXPECT_EQ(gainText(gain), text) << locale;
+  }
+  std::setlocale(LC_ALL, "C");
+}
+
+TEST(ToolOutput, CommandLinesReadAsTheToolsExpect) {
+  AppStateRecord state;
+  state.SourcePathShort = "\"/a b/c.wav\"";
+  state.SavePathShort = "/d.wav";
+  state.AudioGain = -0.2;
+  state.EqString = "equalizer=f=1";
+  EXPECT_EQ(probeCommand("/p", state), "/p\\ffprobe.exe -hide_banner -stats -i \"/a b/c.wav\"");
+  EXPECT_EQ(previewCommand("/p", state), "/p\\ffplay -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1");
+  EXPECT_EQ(renderCommand("/p", state), "/p\\ffmpeg -y -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1 /d.wav");
+}
+
+}  // namespace

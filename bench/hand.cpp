@@ -94,6 +94,8 @@ void sweepTick(benchmark::State& state) {
     sliders.each([](forms::Slider& slider) {
       if (slider.value() == 0) slider.setValue(slider.index() % 2 == 0 ? 12 : -12);
     });
+    // Before its last tick a sweep leaves the timer alone, which would otherwise tick here, too.
+    AppState.SweepTicks = 0;
     const int before = sliders(kBands - 1).value();
     timeStep(state, [] { Form1->Timer3_Timer(); });
     if (sliders(kBands - 1).value() != before + 1) state.SkipWithError("the bands did not move");

@@ -24,6 +24,7 @@ TEST_F(Controls, OptionsRaiseClickByHandAlwaysAndByAssignmentOnlyForADifference)
   EXPECT_FALSE(Form1->Option2(0).value() || Form1->Option2(1).value()) << "the group is empty";
   Form1->Option2(1).setValue(true);
   EXPECT_EQ(clicks, "01");
+  ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));
   Form1->Option2(1).setFocus();
   key(Form1->Option2(1), Qt::Key_Up);
   EXPECT_TRUE(Form1->Option2(0).value()) << "arrow keys walk the group";

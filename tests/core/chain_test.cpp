@@ -26,8 +26,9 @@ TEST(Chain, HasAllBandsOrTheLowCutInPlaceOfTheLowestThree) {
   std::string chain;
   composeChain(chain, state);
   EXPECT_EQ(chain.size(), 1353u);
-  EXPECT_TRUE(chain.starts_with("equalizer=f=19:width_type=o:width=1:g=-0,equalizer=f=20:width_type=o:width=1:g=-0,"
-                                "equalizer=f=25:width_type=o:width=1:g=-0,equalizer=f=31.5:"))
+  EXPECT_TRUE(
+      chain.starts_with("equalizer=f=19:width_type=o:width=1:g=-0,equalizer=f=20:width_type=o:width=1:g=-0,"
+                        "equalizer=f=25:width_type=o:width=1:g=-0,equalizer=f=31.5:"))
       << chain;
   EXPECT_TRUE(chain.ends_with(",equalizer=f=20000:width_type=o:width=1:g=-0")) << chain;
 
@@ -36,7 +37,8 @@ TEST(Chain, HasAllBandsOrTheLowCutInPlaceOfTheLowestThree) {
   composeChain(chain, state);
   EXPECT_EQ(chain.size(), 1270u);
   EXPECT_TRUE(chain.starts_with("equalizer=f=1:width_type=o:width=25:g=-5,equalizer=f=31.5:")) << chain;
-  EXPECT_NE(chain.find(",equalizer=f=1000:width_type=o:width=1:g=5,equalizer=f=1250:"), std::string::npos) << chain;
+  EXPECT_NE(chain.find(",equalizer=f=1000:width_type=o:width=1:g=5,equalizer=f=1250:"), std::string::npos)
+      << chain;
 
   state = flat();
   state.BandWidth = 254;
@@ -70,13 +72,16 @@ TEST_F(ChainInWindow, TakesOverALowCutAtTheNextCompositionOnly) {
   EXPECT_TRUE(AppState.EqString.starts_with("equalizer=f=1:width_type=o:width=25:g=-5,equalizer=f=31.5:"))
       << AppState.EqString;
   Form1->Slider3.setValue(254);
-  EXPECT_TRUE(AppState.EqString.starts_with("equalizer=f=1:width_type=o:width=25:g=-5,"
-                                            "equalizer=f=31.5:width_type=o:width=254:g=-0,"))
+  EXPECT_TRUE(
+      AppState.EqString.starts_with("equalizer=f=1:width_type=o:width=25:g=-5,"
+                                    "equalizer=f=31.5:width_type=o:width=254:g=-0,"))
       << AppState.EqString;
   click(Form1->Option3(1));
   ComposeEqString(31);
-  EXPECT_NE(AppState.EqString.find("f=20:width_type=o:width=254:g=-4,"), std::string::npos) << AppState.EqString;
-  EXPECT_NE(AppState.EqString.find("f=25:width_type=o:width=254:g=7,"), std::string::npos) << AppState.EqString;
+  EXPECT_NE(AppState.EqString.find("f=20:width_type=o:width=254:g=-4,"), std::string::npos)
+      << AppState.EqString;
+  EXPECT_NE(AppState.EqString.find("f=25:width_type=o:width=254:g=7,"), std::string::npos)
+      << AppState.EqString;
 
   const std::string last = AppState.EqString;
   for (const int nowhere : {-1, 32}) ComposeEqString(nowhere);

@@ -21,7 +21,8 @@ bool mayInclude(const std::string& from, const std::string& to) {
 
 TEST(Layers, IncludeOnlyWhatTheyMayKnow) {
   const std::regex include("#include ([<\"])([^>\"]+)[>\"]");
-  const std::regex system("(sys/.*|unistd|fcntl|spawn|poll|signal|sched|dirent|pthread|linux/.*|csignal)(\\.h)?");
+  const std::regex system(
+      "(sys/.*|unistd|fcntl|spawn|poll|signal|sched|dirent|pthread|linux/.*|csignal)(\\.h)?");
   int files = 0;
   for (const auto& entry : fs::recursive_directory_iterator(SOURCE_FOLDER)) {
     if (!entry.is_regular_file()) continue;

@@ -1,8 +1,9 @@
+#include <unistd.h>
+
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QLabel>
 #include <cmath>
-#include <unistd.h>
 
 #include "support/session.h"
 
@@ -39,7 +40,8 @@ TEST_F(Controls, TextIsTextWhateverItHolds) {
   Form1->Command1(8).setCaption(nasty);
   EXPECT_EQ(static_cast<QLabel*>(label.widget())->text().toStdString(), nasty);
   EXPECT_EQ(static_cast<QLabel*>(label.widget())->textFormat(), Qt::PlainText);
-  EXPECT_TRUE(QKeySequence::mnemonic(qobject_cast<QAbstractButton*>(Form1->Command1(8).widget())->text()).isEmpty());
+  EXPECT_TRUE(
+      QKeySequence::mnemonic(qobject_cast<QAbstractButton*>(Form1->Command1(8).widget())->text()).isEmpty());
 }
 
 TEST_F(Controls, WhatCannotBeDoneIsNotDone) {
@@ -91,7 +93,9 @@ TEST_F(Controls, APaintOnlyWaitPaintsAndHoldsBackInputAndClosing) {
   QWidget* label = Form1->Label7(0).widget();
   struct Painted : QObject {
     int times = 0;
-    bool eventFilter(QObject*, QEvent* event) override { return times += event->type() == QEvent::Paint, false; }
+    bool eventFilter(QObject*, QEvent* event) override {
+      return times += event->type() == QEvent::Paint, false;
+    }
   } painted;
   label->installEventFilter(&painted);
   Form1->Slider3.widget()->setFocus();

@@ -33,7 +33,7 @@ TEST_F(SliderByHand, KeysMoveTheWayThePictureSays) {
   const struct {
     Qt::Key key;
     int expected;
-  } rows[] = {{Qt::Key_Up, -1},   {Qt::Key_PageUp, -6}, {Qt::Key_Home, -12}, {Qt::Key_Up, -12},
+  } rows[] = {{Qt::Key_Up, -1},    {Qt::Key_PageUp, -6},   {Qt::Key_Home, -12}, {Qt::Key_Up, -12},
               {Qt::Key_Down, -11}, {Qt::Key_PageDown, -6}, {Qt::Key_End, 12},   {Qt::Key_Right, 11}};
   for (const auto& row : rows) {
     const int before = band.value();

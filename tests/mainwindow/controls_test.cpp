@@ -18,10 +18,10 @@ TEST_F(Window, ShowsABandInBothRangesWithItsBarAndColour) {
     double length;  ///< pixels above the middle
     forms::Color color;
   } rows[] = {
-      {0, -5, "5db", 25, kGreen},   {0, -6, "6db", 30, kYellow}, {0, -10, "10db", 50, kYellow},
-      {0, -11, "11db", 55, kRed},   {0, -12, "12db", 60, kRed},  {0, 12, "-12db", -60, kGreen},
-      {0, 0, "-0db", 0, kGreen},    {1, -2, "2db", 20, kGreen},  {1, -3, "3db", 30, kYellow},
-      {1, -5, "5db", 50, kYellow},  {1, -6, "6db", 60, kRed},    {1, 6, "-6db", -60, kGreen},
+      {0, -5, "5db", 25, kGreen},  {0, -6, "6db", 30, kYellow}, {0, -10, "10db", 50, kYellow},
+      {0, -11, "11db", 55, kRed},  {0, -12, "12db", 60, kRed},  {0, 12, "-12db", -60, kGreen},
+      {0, 0, "-0db", 0, kGreen},   {1, -2, "2db", 20, kGreen},  {1, -3, "3db", 30, kYellow},
+      {1, -5, "5db", 50, kYellow}, {1, -6, "6db", 60, kRed},    {1, 6, "-6db", -60, kGreen},
   };
   for (const auto& row : rows) {
     click(Form1->Option2(row.range));
@@ -67,7 +67,8 @@ TEST_F(Window, AChangeOfRangeZeroesEveryBandAndKeepsTheBarsOfThoseThatNeverMoved
   click(Form1->Option2(1));
   for (int i = 0; i < 32; ++i) {
     const forms::Slider& slider = Form1->Slider1(i);
-    EXPECT_TRUE(slider.value() == 0 && slider.min() == -6 && slider.max() == 6 && slider.tickFrequency() == 1) << i;
+    EXPECT_TRUE(slider.value() == 0 && slider.min() == -6 && slider.max() == 6 && slider.tickFrequency() == 1)
+        << i;
   }
   EXPECT_EQ(Form1->Line4(3).y2(), untouched);
   EXPECT_EQ(Form1->Line4(9).y1(), Form1->Line4(9).y2());
@@ -95,8 +96,7 @@ TEST_F(Window, TheCheckBoxHidesTheBarsAndLeavesThemWorking) {
 TEST_F(Window, TheClipboardButtonTellsOfACopyUntilTheNextChange) {
   Form1->Slider1(0).setValue(1);
   const std::function<void()> changes[] = {[] { Form1->Slider1(0).setValue(Form1->Slider1(0).value() + 1); },
-                                           [] { Form1->Slider2_Scroll(); },
-                                           [] { Form1->ShowBandWidth(1); }};
+                                           [] { Form1->Slider2_Scroll(); }, [] { Form1->ShowBandWidth(1); }};
   for (const auto& change : changes) {
     Form1->Command1_Click(8);
     EXPECT_EQ(Form1->Command1(8).caption(), "Data On Clipboard");
@@ -139,7 +139,8 @@ TEST_F(Hints, MarkTheBandUnderTheMouseUntilItReachesTheBareForm) {
   for (forms::Control* other : std::initializer_list<forms::Control*>{
            &Form1->Picture1(0), &Form1->Label1(3), &Form1->Label9(3), &Form1->Picture4, &Form1->Label7(1)}) {
     hover(*other);
-    EXPECT_TRUE(Form1->Label6.visible()) << other->widget()->objectName().toStdString() << " let a move through";
+    EXPECT_TRUE(Form1->Label6.visible())
+        << other->widget()->objectName().toStdString() << " let a move through";
   }
   hover(form);
   EXPECT_FALSE(Form1->Label6.visible());
@@ -153,7 +154,8 @@ TEST_F(Hints, LightOneGainLabelUntilAResettingPlaceIsReached) {
     hover(Form1->Label4(3));
     hover(Form1->Label4(2));
     EXPECT_EQ(blueLabels(), "2");
-    for (QWidget* other : {Form1->Label8(0).widget(), Form1->Slider3.widget(), Form1->Label6.widget()->window()}) {
+    for (QWidget* other :
+         {Form1->Label8(0).widget(), Form1->Slider3.widget(), Form1->Label6.widget()->window()}) {
       hover(other);
       EXPECT_EQ(blueLabels(), "2") << other->objectName().toStdString();
     }

@@ -13,15 +13,16 @@ TEST_F(Start, ReachesTheFirstIdleState) {
   EXPECT_EQ(Form1->caption(), "Tessavane Graphic Equalizer");
   EXPECT_EQ(Form1->width(), 17550);
   EXPECT_EQ(Form1->height(), 5415);
-  EXPECT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); })) << "focus on the first button";
+  EXPECT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); }))
+      << "focus on the first button";
   const std::pair<int, bool> buttons[] = {{0, true},  {2, false}, {3, false}, {6, true},
                                           {7, false}, {8, false}, {10, true}};
   for (const auto& [index, enabled] : buttons) EXPECT_EQ(Form1->Command1(index).enabled(), enabled) << index;
   EXPECT_EQ(Form1->Command1.count(), 7);
   EXPECT_EQ(Form1->Command1(8).caption(), " EQ String > Clipboard");
-  const char* readOuts[] = {"Preset Settings: 0",      "EQ Range: +/- 12 db",
-                            "Low Cut Filter: Off",     "Indicators: On",
-                            "Selected Frequency: 0hz", "Gain Settings 100% Of Source",
+  const char* readOuts[] = {"Preset Settings: 0",        "EQ Range: +/- 12 db",
+                            "Low Cut Filter: Off",       "Indicators: On",
+                            "Selected Frequency: 0hz",   "Gain Settings 100% Of Source",
                             "Current Bandwidth: 001 Hz", "Selected Frequency Value:  0db"};
   for (int i = 0; i < 8; ++i) EXPECT_EQ(Form1->Label7(i).caption(), readOuts[i]);
   EXPECT_EQ(Form1->Label4(3).caption(), "Gain:100%");

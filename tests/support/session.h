@@ -22,7 +22,9 @@
 namespace support {
 
 /// Serves events until `condition` holds; false where it does not within a long time.
-inline bool waitFor(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 20000); }
+inline bool waitFor(const std::function<bool()>& condition) {
+  return QTest::qWaitFor(condition, 20000);
+}
 
 /// The program after its start, in a folder of its own that has no tools yet.
 class Session : public testing::Test {

@@ -3,6 +3,7 @@
 
 #include <stdlib.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -61,6 +62,11 @@ inline std::string writeScript(const TempFolder& folder, const std::string& name
   const std::string path = writeText(folder, name, "#!/bin/sh\n" + text);
   std::filesystem::permissions(path, std::filesystem::perms(0755));
   return path;
+}
+
+/// Runs a shell command to its end. Its status is lost, because children are reaped by the system.
+inline void shell(const std::string& command) {
+  [[maybe_unused]] const int status = std::system(command.c_str());
 }
 
 }  // namespace support

@@ -98,7 +98,8 @@ Holdings holdings() {
   for (std::string word; status >> word;) {
     if (word == "VmRSS:") status >> now.memory;
   }
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) ++now.descriptors;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd"))
+    ++now.descriptors;
   std::ifstream children("/proc/thread-self/children");
   for (std::string child; children >> child;) ++now.children;
   return now;

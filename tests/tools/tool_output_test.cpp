@@ -10,10 +10,11 @@
 namespace {
 
 TEST(ToolOutput, ReadsATimeOnlyWhereAllOfItIsOne) {
-  const std::pair<const char*, int> times[] = {{"00:00:00", 0}, {"00:03:21", 201}, {"01:00:00", 3600}, {"23:59:59", 86399}};
+  const std::pair<const char*, int> times[] = {
+      {"00:00:00", 0}, {"00:03:21", 201}, {"01:00:00", 3600}, {"23:59:59", 86399}};
   for (const auto& [text, seconds] : times) EXPECT_EQ(secondsOfTime(text), seconds) << text;
-  for (const char* text : {"", "00:03:2", "24:00:00", "00:60:00", "00:00:60", "-0:00:01", "N/A bitr", "00.00.00",
-                           "00:0a:00", " 0:00:01", "00:00:000"}) {
+  for (const char* text : {"", "00:03:2", "24:00:00", "00:60:00", "00:00:60", "-0:00:01", "N/A bitr",
+                           "00.00.00", "00:0a:00", " 0:00:01", "00:00:000"}) {
     EXPECT_EQ(secondsOfTime(text), std::nullopt) << text;
   }
 }
@@ -41,11 +42,14 @@ TEST(ToolOutput, FindsTheDurationAsTheToolsWriteIt) {
 }
 
 TEST(ToolOutput, FindsTheFirstTimeOfAPieceInAnyCase) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"size= 1kB time=00:01:00.05 bitrate", "00:01:00"}, {"TIME=00:00:01.00", "00:00:01"},
-      {"runtime exceeded", "exceeded"},                    {"time=", ""},
-      {"time=00:0", "00:0"},                               {"tim", ""},
-      {"time=-00:00:01.00 time=00:00:05", "-00:00:0"},     {"", ""}};
+  const std::pair<const char*, const char*> rows[] = {{"size= 1kB time=00:01:00.05 bitrate", "00:01:00"},
+                                                      {"TIME=00:00:01.00", "00:00:01"},
+                                                      {"runtime exceeded", "exceeded"},
+                                                      {"time=", ""},
+                                                      {"time=00:0", "00:0"},
+                                                      {"tim", ""},
+                                                      {"time=-00:00:01.00 time=00:00:05", "-00:00:0"},
+                                                      {"", ""}};
   for (const auto& [piece, expected] : rows) EXPECT_EQ(progressTime(piece), expected) << piece;
 }
 
@@ -53,10 +57,14 @@ TEST(ToolOutput, FindsTheFirstTimeOfAPieceInAnyCase) {
 TEST(ToolOutput, WritesPercentAndGainWithAPointInEveryLocale) {
   for (const char* locale : {"C", "de_DE.UTF-8"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;
-    const std::tuple<float, float, const char*> percents[] = {
-        {0.F, 201.F, "00.00"}, {60.F, 201.F, "29.85"}, {120.F, 201.F, "59.70"}, {201.F, 201.F, "100.00"}, {9.F, 100.F, "09.00"}};
+    const std::tuple<float, float, const char*> percents[] = {{0.F, 201.F, "00.00"},
+                                                              {60.F, 201.F, "29.85"},
+                                                              {120.F, 201.F, "59.70"},
+                                                              {201.F, 201.F, "100.00"},
+                                                              {9.F, 100.F, "09.00"}};
     for (const auto& [value, max, text] : percents) EXPECT_EQ(percentText(value, max), text) << locale;
-    const std::pair<double, const char*> gains[] = {{1, "1"}, {0.6, "0.6"}, {7 / 5.0, "1.4"}, {-7 / 5.0, "-1.4"}, {0, "0"}, {-2, "-2"}};
+    const std::pair<double, const char*> gains[] = {{1, "1"},           {0.6, "0.6"}, {7 / 5.0, "1.4"},
+                                                    {-7 / 5.0, "-1.4"}, {0, "0"},     {-2, "-2"}};
     for (const auto& [gain, text] : gains) EXPECT_EQ(gainText(gain), text) << locale;
   }
   std::setlocale(LC_ALL, "C");
@@ -70,7 +78,8 @@ TEST(ToolOutput, CommandLinesReadAsTheToolsExpect) {
   state.EqString = "equalizer=f=1";
   EXPECT_EQ(probeCommand("/p", state), "/p\\ffprobe.exe -hide_banner -stats -i \"/a b/c.wav\"");
   EXPECT_EQ(previewCommand("/p", state), "/p\\ffplay -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1");
-  EXPECT_EQ(renderCommand("/p", state), "/p\\ffmpeg -y -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1 /d.wav");
+  EXPECT_EQ(renderCommand("/p", state),
+            "/p\\ffmpeg -y -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1 /d.wav");
 }
 
 }  // namespace

@@ -1,0 +1,129 @@
+#include "tools/source.h"
+
+#include "support/session.h"
+
+namespace {
+
+class Source : public support::Session {
+ protected:
+  /// Puts the real tool beside the program.
+  void useRealTools() {
+    for (const char* tool : {"ffmpeg", "ffprobe"}) {
+      std::filesystem::create_symlink(std::string("/usr/bin/") + tool, folder.file(tool));
+    }
+  }
+};
+
+TEST_F(Source, OpensTheButtonsAndShowsThePath) {
+  support::writeScript(
+      folder, "ffprobe",
+      "printf '%s\\n' \"$0\" \"$@\" > \"$0.arguments\"; printf '  Duration: 00:03:21.45, start'");
+  const std::string path = support::writeText(folder, "my \"song\".wav", "");
+  openSource("");
+  EXPECT_EQ(Form1->Text1.text(), "<%InputFile%>");
+  for (const int i : {2, 3, 7, 8})
+    EXPECT_FALSE(Form1->Command1(i).enabled()) << "a Cancel at the very first use";
+
+  openSource(path);
+  for (const int i : {2, 3, 6, 7, 8}) EXPECT_TRUE(Form1->Command1(i).enabled()) << i;
+  EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
+  EXPECT_EQ(Form1->Text1.backColor(), 0xC0C0C0U);
+  EXPECT_EQ(AppState.SourceSeconds, "201");
+  EXPECT_EQ(support::readFile(folder.file("ffprobe.arguments")),
+            folder.file("ffprobe") + "\n-hide_banner\n-stats\n-i\n" + path + "\n");
+
+  openSource("");
+  EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
+  EXPECT_EQ(Form1->Text1.backColor(), forms::kButtonFace);
+  openSource(folder.file("not there.wav"));
+  EXPECT_EQ(AppState.SourcePathShort + Form1->Text1.text(), "");
+  EXPECT_TRUE(Form1->Command1(3).enabled());
+}
+
+TEST_F(Source, MeasuresEveryRealFormatInWholeSeconds) {
+  useRealTools();
+  const std::string sound = "-f lavfi -i sine=d=3.6 ";
+  const std::string tags =
+      " -metadata comment='" + std::string(2000, 'x') + "' -metadata title='Duration: none' ";
+  const std::string picture =
+      "-f lavfi -i color=red:s=600x600:d=1 -map 0 -map 1 -frames:v 1 -disposition:v attached_pic ";
+  const std::pair<const char*, std::string> sources[] = {{"a.mp3", sound + tags},
+                                                         {"a.flac", sound + picture + tags},
+                                                         {"a.ogg", sound + tags},
+                                                         {"a.wav", sound},
+                                                         {"a.m4a", sound + tags}};
+  for (const auto& [name, arguments] : sources) {
+    support::shell("ffmpeg -v error -y " + arguments + "'" + folder.file(name) + "'");
+    ASSERT_TRUE(std::filesystem::exists(folder.file(name))) << name;
+    AppState.SourceSeconds = "stale";
+    openSource(folder.file(name));
+    EXPECT_EQ(AppState.SourceSeconds, "3") << name;
+  }
+  openSource(support::writeText(folder, "no sound.wav", "nothing"));
+  EXPECT_EQ(AppState.SourceSeconds, "3") << "a source without a duration leaves the number of the one before";
+}
+
+TEST_F(Source, TakesWhateverAToolDoes) {
+  const std::string path = support::writeText(folder, "a.wav", "");
+  const struct {
+    const char* script;
+    const char* expected;
+  } rows[] = {
+      {"printf 'Input #0\\n'; sleep 0.05; printf '  Duration: '; sleep 0.05; printf '00:00:09.99'", "9"},
+      {"echo 'Duration: N/A'", ""},
+      {"echo 'Duration: 00:00:08'; kill -9 $$", "8"},
+      {"head -c 10000000 /dev/zero", "kept"},
+      {"printf '\\377\\376Duration: 00:00:07'", "7"},
+      {"exit 1", "kept"},
+  };
+  for (const auto& row : rows) {
+    support::writeScript(folder, "ffprobe", row.script);
+    AppState.SourceSeconds = "kept";
+    openSource(path);
+    EXPECT_EQ(AppState.SourceSeconds, row.expected) << row.script;
+    EXPECT_EQ(Form1->objDOS.get(), nullptr) << row.script;
+  }
+  std::filesystem::permissions(folder.file("ffprobe"), std::filesystem::perms(0644));
+  AppState.SourceSeconds = "kept";
+  openSource(path);
+  EXPECT_EQ(AppState.SourceSeconds, "kept") << "a tool that may not be executed";
+}
+
+TEST_F(Source, ASecondSourceServedInsideTheFirstProbeWins) {
+  support::writeScript(folder, "ffprobe",
+                       "case \"$4\" in *first*) echo Input; sleep 0.1; echo ' Duration: 00:00:01';;"
+                       " *) echo ' Duration: 00:00:02';; esac");
+  const std::string first = support::writeText(folder, "first.wav", "");
+  const std::string second = support::writeText(folder, "second.wav", "");
+  answerDialog(first);
+  bool clicked = false;
+  Form1->Text1.onChange = [&](int) {
+    if (std::exchange(clicked, true)) return;
+    QMetaObject::invokeMethod(
+        qApp, [&] { openSource(second); }, Qt::QueuedConnection);
+  };
+  click(Form1->Command1(0));
+  EXPECT_EQ(Form1->Text1.text(), GetShortPath(second));
+  EXPECT_EQ(AppState.SourceSeconds, "2");
+}
+
+TEST_F(Source, PreviewComposesAfreshAndHandsTheChainToThePlayer) {
+  support::writeScript(folder, "ffplay",
+                       "printf '%s\\n' \"$@\" > \"$0.arguments\"; echo ' Duration: 00:00:04'; echo more");
+  const std::string path = support::writeText(folder, "a.wav", "");
+  openSource(path);
+  click(Form1->Option3(0));
+  click(Form1->Command1(2));
+  EXPECT_TRUE(AppState.EqString.starts_with("equalizer=f=1:width_type=o:width=25:g=-5,"))
+      << AppState.EqString;
+  EXPECT_EQ(support::readFile(folder.file("ffplay.arguments")),
+            "-i\n" + path + "\n-af\nvolume=1," + AppState.EqString + "\n");
+  for (const std::string& text : AppState.BandGainText) EXPECT_EQ(text, "-0");
+  EXPECT_EQ(AppState.SourceSeconds, "4");
+  std::filesystem::remove(folder.file("ffplay"));
+  Form1->Slider1(9).setValue(-3);
+  click(Form1->Command1(2));
+  EXPECT_EQ(Form1->objDOS.get(), nullptr) << "after a preview without a player";
+}
+
+}  // namespace

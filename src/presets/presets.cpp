@@ -51,15 +51,14 @@ void applyPass(const std::string& line, const std::vector<std::string_view>& ele
 
 void SavePreset() {
   if (AppState.PresetNumber == 0) return;
-  const std::string section = sectionName(AppState.PresetNumber);
-  platform::writeProfileString(section, kKey, std::nullopt, AppState.PresetFilePath);
   std::string line;
   for (int i = 0; i < Form1->Slider1.count(); ++i) line += std::to_string(Form1->Slider1(i).value()) + ":";
   line += "LowCut=" + std::to_string(AppState.LowCutIndex);
   line += ":Range=" + std::to_string(AppState.RangeIndex);
   line += ":BandWidth=" + padded(std::to_string(AppState.BandWidth), 3);
   line += ":AudioGain=" + std::to_string(std::lround(AppState.AudioGain * 100));
-  platform::writeProfileString(section, kKey, line, AppState.PresetFilePath);
+  // The old line goes in the same step as the new one comes: a disk that fills up in between cannot lose both.
+  platform::writeProfileString(sectionName(AppState.PresetNumber), kKey, line, AppState.PresetFilePath);
 }
 
 void LoadPreset(int PresetIndex) {

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "forms/look.h"
+#include "forms/surface.h"
 
 namespace forms {
 namespace {
@@ -35,8 +36,7 @@ class Outline : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    painter.setPen(Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    drawOutline(painter, rect(), Qt::black);
   }
 };
 

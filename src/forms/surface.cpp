@@ -17,13 +17,20 @@ Surface::Surface(QWidget* parent, bool border, Scale scale)
 void Surface::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   if (border_) {
-    painter.setPen(QColor(0x646464));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    drawOutline(painter, rect(), QColor(0x646464));
   }
   painter.setClipRect(event->rect() & rect().adjusted(border(), border(), -border(), -border()));
   painter.translate(border(), border());
   painter.scale(1 / unitsPerPixel(), 1 / unitsPerPixel());
   for (const Line* line : lines_) line->paint(painter);
+}
+
+void drawOutline(QPainter& painter, const QRect& extent, const QColor& color) {
+  const QRect rows[] = {{extent.topLeft(), QSize(extent.width(), 1)},
+                        {extent.bottomLeft(), QSize(extent.width(), 1)},
+                        {extent.topLeft(), QSize(1, extent.height())},
+                        {extent.topRight(), QSize(1, extent.height())}};
+  for (const QRect& row : rows) painter.fillRect(row, color);
 }
 
 Line::Line(Form* form, const LineData& data)

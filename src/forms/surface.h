@@ -30,4 +30,7 @@ class Surface : public QWidget {
   std::vector<const Line*> lines_;
 };
 
+/// Fills the outermost pixels of `extent`, whole ones on scaled screens too.
+void drawOutline(QPainter& painter, const QRect& extent, const QColor& color);
+
 }  // namespace forms

@@ -133,11 +133,4 @@ TEST_F(Controls, ALoadedWindowComesBackFreshAfterAnUnloadOfWhichHandlersHearOnce
   EXPECT_NE(Form3.current(), first);
 }
 
-TEST_F(Controls, AUnloadInsideAnEventOfTheWindowItselfIsSafe) {
-  Form3->show(&*Form1);
-  click(Form3->Command1(1));
-  EXPECT_FALSE(Form3.isLoaded());
-  forms::Application::doEvents();
-}
-
 }  // namespace

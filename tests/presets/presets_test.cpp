@@ -189,11 +189,4 @@ TEST_F(Presets, NoPresetWalksAllBandsBackAndStopsOnTick33) {
   EXPECT_FALSE(Form1->Timer3.enabled());
 }
 
-TEST_F(Presets, TheSweepRunsByItself) {
-  Form1->Slider1(3).setValue(7);
-  click(Form1->Option1(0));
-  EXPECT_TRUE(support::waitFor([] { return !Form1->Timer3.enabled(); }));
-  EXPECT_EQ(Form1->Slider1(3).value(), 0);
-}
-
 }  // namespace

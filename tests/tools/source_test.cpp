@@ -63,32 +63,6 @@ TEST_F(Source, MeasuresEveryRealFormatInWholeSeconds) {
   EXPECT_EQ(AppState.SourceSeconds, "3") << "a source without a duration leaves the number of the one before";
 }
 
-TEST_F(Source, TakesWhateverAToolDoes) {
-  const std::string path = support::writeText(folder, "a.wav", "");
-  const struct {
-    const char* script;
-    const char* expected;
-  } rows[] = {
-      {"printf 'Input #0\\n'; sleep 0.05; printf '  Duration: '; sleep 0.05; printf '00:00:09.99'", "9"},
-      {"echo 'Duration: N/A'", ""},
-      {"echo 'Duration: 00:00:08'; kill -9 $$", "8"},
-      {"head -c 10000000 /dev/zero", "kept"},
-      {"printf '\\377\\376Duration: 00:00:07'", "7"},
-      {"exit 1", "kept"},
-  };
-  for (const auto& row : rows) {
-    support::writeScript(folder, "ffprobe", row.script);
-    AppState.SourceSeconds = "kept";
-    openSource(path);
-    EXPECT_EQ(AppState.SourceSeconds, row.expected) << row.script;
-    EXPECT_EQ(Form1->objDOS.get(), nullptr) << row.script;
-  }
-  std::filesystem::permissions(folder.file("ffprobe"), std::filesystem::perms(0644));
-  AppState.SourceSeconds = "kept";
-  openSource(path);
-  EXPECT_EQ(AppState.SourceSeconds, "kept") << "a tool that may not be executed";
-}
-
 TEST_F(Source, ASecondSourceServedInsideTheFirstProbeWins) {
   support::writeScript(folder, "ffprobe",
                        "case \"$4\" in *first*) echo Input; sleep 0.1; echo ' Duration: 00:00:01';;"

@@ -41,18 +41,6 @@ TEST(ToolOutput, FindsTheDurationAsTheToolsWriteIt) {
   }
 }
 
-TEST(ToolOutput, FindsTheFirstTimeOfAPieceInAnyCase) {
-  const std::pair<const char*, const char*> rows[] = {{"size= 1kB time=00:01:00.05 bitrate", "00:01:00"},
-                                                      {"TIME=00:00:01.00", "00:00:01"},
-                                                      {"runtime exceeded", "exceeded"},
-                                                      {"time=", ""},
-                                                      {"time=00:0", "00:0"},
-                                                      {"tim", ""},
-                                                      {"time=-00:00:01.00 time=00:00:05", "-00:00:0"},
-                                                      {"", ""}};
-  for (const auto& [piece, expected] : rows) EXPECT_EQ(progressTime(piece), expected) << piece;
-}
-
 /// Number texts are the same whatever the locale.
 TEST(ToolOutput, WritesPercentAndGainWithAPointInEveryLocale) {
   for (const char* locale : {"C", "de_DE.UTF-8"}) {
@@ -68,18 +56,6 @@ TEST(ToolOutput, WritesPercentAndGainWithAPointInEveryLocale) {
     for (const auto& [gain, text] : gains) EXPECT_EQ(gainText(gain), text) << locale;
   }
   std::setlocale(LC_ALL, "C");
-}
-
-TEST(ToolOutput, CommandLinesReadAsTheToolsExpect) {
-  AppStateRecord state;
-  state.SourcePathShort = "\"/a b/c.wav\"";
-  state.SavePathShort = "/d.wav";
-  state.AudioGain = -0.2;
-  state.EqString = "equalizer=f=1";
-  EXPECT_EQ(probeCommand("/p", state), "/p\\ffprobe.exe -hide_banner -stats -i \"/a b/c.wav\"");
-  EXPECT_EQ(previewCommand("/p", state), "/p\\ffplay -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1");
-  EXPECT_EQ(renderCommand("/p", state),
-            "/p\\ffmpeg -y -i \"/a b/c.wav\" -af \"volume=-0.2\",equalizer=f=1 /d.wav");
 }
 
 }  // namespace

@@ -26,7 +26,8 @@ class NameDialog : public QFileDialog {
     connect(this, &QFileDialog::filterSelected, this, &NameDialog::widenFilter);
     resize(720, 440);
     // By itself the list cuts sizes and dates short.
-    if (auto* list = findChild<QTreeView*>()) list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    if (auto* list = findChild<QTreeView*>())
+      list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
 
   const QString& chosen() const { return chosen_; }

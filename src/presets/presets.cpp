@@ -57,7 +57,8 @@ void SavePreset() {
   line += ":Range=" + std::to_string(AppState.RangeIndex);
   line += ":BandWidth=" + padded(std::to_string(AppState.BandWidth), 3);
   line += ":AudioGain=" + std::to_string(std::lround(AppState.AudioGain * 100));
-  // The old line goes in the same step as the new one comes: a disk that fills up in between cannot lose both.
+  // The old line goes in the same step as the new one comes: a disk that fills up in between cannot lose
+  // both.
   platform::writeProfileString(sectionName(AppState.PresetNumber), kKey, line, AppState.PresetFilePath);
 }
 

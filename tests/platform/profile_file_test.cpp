@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 
 #include <csignal>
+#include <cstdlib>
 
 #include "support/processes.h"
 #include "support/temp_folder.h"
@@ -134,6 +136,26 @@ TEST_F(ProfileFile, FailedWriteLeavesTheOldFileAndNoOther) {
     EXPECT_EQ(read(own_.file(name)), "default") << name;
   }
   EXPECT_EQ(std::distance(fs::directory_iterator(own_.path()), {}), 6) << "A temporary file was left.";
+}
+
+TEST_F(ProfileFile, AKillAtAnyMomentLeavesEveryPresetWhole) {
+  const std::string line(150, 'x');
+  std::srand(1);
+  for (int preset = 1; preset <= 6; ++preset) {
+    ASSERT_TRUE(platform::writeProfileString("Preset#" + std::to_string(preset), "Frequency", line,
+                                             own_.file("file")));
+  }
+  const std::string whole = support::readFile(own_.file("file"));
+  for (int round = 0; round < 200; ++round) {
+    const pid_t saving = fork();
+    if (saving == 0) {
+      for (;;) write(own_.file("file"), line);
+    }
+    usleep(static_cast<useconds_t>(std::rand() % 2000));
+    kill(saving, SIGKILL);
+    waitpid(saving, nullptr, 0);
+    ASSERT_EQ(support::readFile(own_.file("file")), whole) << "round " << round;
+  }
 }
 
 }  // namespace

@@ -215,6 +215,29 @@ TEST_F(Render, AWindowClosedInTheMiddleIsNotMissedAndDoesNotComeBack) {
   EXPECT_EQ(Form1->caption(), "untouched");
 }
 
+TEST_F(Render, TheWindowWorksOnWhileItRenders) {
+  fakeRender("echo $2 $3 >> \"$0.runs\"; until [ -e \"$0.go\" ]; do echo time=; sleep 0.02; done");
+  support::writeScript(folder, "ffplay", "echo played > \"$0.done\"");
+  saveAs(folder.file("one.wav"));
+  const auto before = AppState.EqString;
+  QTimer hand(qApp);
+  QObject::connect(&hand, &QTimer::timeout, [&] {
+    if (forms::Application::holdsBack() || support::readFile(folder.file("ffmpeg.runs")).empty()) return;
+    hand.stop();
+    Form1->Slider1(0).setValue(-1);
+    click(Form1->Command1(2));
+    saveAs(folder.file("two.wav"));
+    support::writeText(folder, "ffmpeg.go", "");
+  });
+  hand.start(0);
+  ASSERT_TRUE(finished());
+  EXPECT_NE(AppState.EqString, before);
+  EXPECT_EQ(support::readFile(folder.file("ffplay.done")), "played\n");
+  EXPECT_EQ(support::readFile(folder.file("two.wav")), kMarker);
+  EXPECT_NE(Form2->Label1(1).caption().find("two.wav"), std::string::npos);
+  EXPECT_EQ(support::readFile(folder.file("ffmpeg.runs")), "-i " + source + "\n") << "one render";
+}
+
 /// The real tool.
 class RealRender : public Render {
  protected:

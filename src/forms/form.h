@@ -44,8 +44,7 @@ class Form : public std::enable_shared_from_this<Form> {
   /// Raises QueryUnload and Unload and takes the window away. Inside an unload it does nothing.
   void unload();
 
-  std::function<void()> onLoad, onResize, onQueryUnload, onUnload, onTerminate;
-  Event onMouseMove;
+  std::function<void()> onLoad, onResize, onQueryUnload, onUnload, onTerminate, onMouseMove;
 
   /// Members of the array, or the one control, of this name. Gaps are null.
   Items& items(const char* name) { return items_[name]; }

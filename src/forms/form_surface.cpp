@@ -109,10 +109,7 @@ bool FormSurface::event(QEvent* event) {
   const bool handled = Surface::event(event);
   switch (event->type()) {
     case QEvent::MouseMove:
-      if (form_.isLoaded() && !Application::holdsBack() && form_.onMouseMove) {
-        const auto alive = form_.shared_from_this();
-        form_.onMouseMove(0);
-      }
+      form_.raise(form_.onMouseMove);
       break;
     case QEvent::Show:
     case QEvent::Move:

@@ -3,6 +3,8 @@
 
 #include <QObject>
 
+class QWidget;
+
 namespace forms {
 
 class Control;

@@ -11,7 +11,7 @@ MainWindow::MainWindow()
   onLoad = [this] { Form_Load(); };
   onResize = [this] { Form_Resize(); };
   onQueryUnload = onUnload = onTerminate = &CleanUnload;
-  onMouseMove = [this](int) { Form_MouseMove(); };
+  onMouseMove = [this] { Form_MouseMove(); };
 
   Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
   Slider1.each([this](auto& slider) {

@@ -101,18 +101,19 @@ void measureRender() {
   }
   std::cerr << "render: " << median(program) << " s through the program, " << median(byHand) << " s by hand, "
             << median(oneThread) << " s with -filter_threads 1\n";
-  print("render-hand", median(program) / median(byHand));
-  print("render-thread", median(program) / median(oneThread));
+  print("renderByHand", median(program) / median(byHand));
+  print("renderThread", median(program) / median(oneThread));
   const std::string rendered = bytes("ours.wav");
   const bool same = rendered.size() > bytes("source.wav").size() / 2 && rendered == bytes("hand.wav");
-  print("render-bytes", same ? 0 : 1);
+  print("renderBytes", same ? 0 : 1);
 }
 
-/// The one child that this process has, 0 where there is none.
-pid_t onlyChild() {
-  pid_t child = 0;
-  std::ifstream("/proc/self/task/" + std::to_string(getpid()) + "/children") >> child;
-  return child;
+/// The child that this process started last, 0 where there is none.
+pid_t youngestChild() {
+  std::ifstream children("/proc/self/task/" + std::to_string(getpid()) + "/children");
+  pid_t youngest = 0;
+  for (pid_t child = 0; children >> child;) youngest = child;
+  return youngest;
 }
 
 /// Processor time of all threads of `process` so far.
@@ -132,7 +133,7 @@ double processorMinute(const std::function<void()>& play) {
   double minute = 0;
   std::thread watch([&] {
     std::this_thread::sleep_for(Seconds(kStart));
-    const pid_t player = onlyChild();
+    const pid_t player = youngestChild();
     const double start = processorSeconds(player);
     std::this_thread::sleep_for(Seconds(kWatched));
     const double watched = processorSeconds(player) - start;
@@ -188,7 +189,8 @@ int main() {
   setAllBands();
   measureOutput();
   if (!twoProcessors) {
-    for (const char* name : {"render-hand", "render-thread", "render-bytes", "preview"}) print(name, -1);
+    for (const char* name : {"renderByHand", "renderThread", "renderBytes", "preview"})
+      std::cout << name << " unmeasurable\n";
     return 0;
   }
   measureRender();

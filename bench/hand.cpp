@@ -86,7 +86,7 @@ void bandwidthStep(benchmark::State& state) {
     if (AppState.BandWidth != wanted) state.SkipWithError("the key did not move the slider");
   }
 }
-BENCHMARK(bandwidthStep)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(bandwidthStep)->Iterations(2000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void sweepTick(benchmark::State& state) {
   auto& sliders = Form1->Slider1;
@@ -101,7 +101,7 @@ void sweepTick(benchmark::State& state) {
     if (sliders(kBands - 1).value() != before + 1) state.SkipWithError("the bands did not move");
   }
 }
-BENCHMARK(sweepTick)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(sweepTick)->Iterations(240)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void writePresets(const std::string& path) {
   std::ofstream file(path, std::ios::binary);
@@ -136,7 +136,7 @@ void preset(benchmark::State& state) {
     chosen = 3 - chosen;
   }
 }
-BENCHMARK(preset)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(preset)->Iterations(200)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -1,0 +1,156 @@
+#!/bin/bash
+# One whole session, from the source to the rendered file, by mouse and keyboard.
+. "$(dirname "$0")/desktop.sh"
+
+source_file="$scratch/my song.wav"
+target="$folder/louder song.wav"
+# Band 0 to 31 as the session leaves them, in the range of 6 dB: a cut is a high position.
+positions=(-6 -4 3 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 -5 2 0 0 0 0 0 0 0 0 0 0 0 -1)
+preset_line="$(printf '%s:' "${positions[@]}")LowCut=0:Range=1:BandWidth=003:AudioGain=140"
+chain="equalizer=f=1:width_type=o:width=25:g=-5,$(
+  chain 3 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 5 -2 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 -0 1)"
+
+open_the_source() {
+  ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
+  click "EQ String > Clipboard" # Without a source it does nothing.
+  open_source "$source_file"
+  arguments -hide_banner -stats -i "$source_file"
+  expect_file "arguments of ffprobe" "$scratch/arguments" "$folder/ffprobe.args"
+  wait_for only_program_runs
+}
+
+set_everything() {
+  drag_band 7 0 -12 12
+  click "6 db" # Puts all bands back to 0.
+  click "Low Cut On"
+  click "Preset 3" # Not stored yet: moves band 0 to 1 and nothing else.
+  drag_band 0 1 -6 6
+  drag_band 1 0 -4 6
+  drag_band 2 0 3 6
+  click_at "$main" "$(band_x 18)" "$(band_y 0 6)"
+  keys Prior Tab Down Down # A page up is 5 dB; the next band, 2 dB down.
+  click_at "$main" 448 229  # The thumb of the bandwidth.
+  keys Right Right
+  click Increase
+  click Increase
+  click_at "$main" "$(band_x 31)" "$(band_y 0 6)"
+  keys Up
+  leave_mouse
+}
+
+# bar BAND DB COLOUR: the indicator shows that colour half way between the middle and its end.
+bar() {
+  expect "colour of the bar of band $1" "$3" "$(pixel $((38 + 30 * $1)) $((100 - $2 * 5)))"
+}
+
+check_the_picture() {
+  local face
+  wait_for pixel_is 920 249 ffff80 # The gain bar, right of the middle, is yellow at 140 %.
+  bar 0 6 ff0000
+  bar 1 4 ffff80
+  bar 2 -3 80ff80
+  bar 18 5 ffff80
+  bar 19 -2 80ff80
+  face=$(pixel 500 162)
+  expect "no bar below a raised band" "$face" "$(pixel 38 110)"
+  pixel_is 1096 64 ffffff && fail "preset 3 has no dot"
+  pixel_is 1032 40 ffffff || fail "two presets have a dot"
+}
+
+pixel_is() {
+  [ "$(pixel "$1" "$2")" = "$3" ]
+}
+
+keep_in_preset() {
+  click "Save Preset"
+  wait_for test -s "$folder/AppPresets.ini"
+  printf '[Preset#3]\r\nFrequency=%s\r\n' "$preset_line" >"$scratch/preset"
+  expect_file "preset file" "$scratch/preset" "$folder/AppPresets.ini"
+  click "Preset 3"
+  leave_mouse
+  wait_for settled before
+}
+
+# settled NAME: two pictures in a row are the same; the last is kept under that name.
+settled() {
+  shot "$1"
+  sleep 0.1
+  looks_like "$1"
+}
+
+move_everything() {
+  click "12 db"
+  click "Low Cut Off"
+  drag_band 0 0 12 12
+  drag_band 20 0 -9 12
+  click Decrease
+  click_at "$main" 448 229
+  keys End
+  leave_mouse
+  wait_for looks_unlike before
+}
+
+load_the_preset() {
+  click "Preset 3"
+  leave_mouse
+  wait_for looks_like before
+}
+
+take_the_string_away() {
+  printf %s "${chain//,/$'\r\n'}" >"$scratch/list"
+  { cat "$scratch/list" && printf '\r\n'; } >"$scratch/list lines"
+  click "FFmpeg EQ String"
+  wait_for window_is_active "FFmpeg Equalizer String"
+  string_button 192
+  wait_for window_is_active "Done."
+  wait_for window_is_active "FFmpeg Equalizer String"
+  string_button 72
+  choose "Save As" "$folder/the list.txt"
+  wait_for test -s "$folder/the list.txt"
+  expect_file "saved list" "$scratch/list lines" "$folder/the list.txt"
+  wait_for window_is_active "FFmpeg Equalizer String"
+  string_button 312
+  wait_for clipboard_holds "$scratch/list"
+  string_button 505
+  wait_for no_window "FFmpeg Equalizer String"
+  printf %s "$chain" >"$scratch/chain"
+  click "EQ String > Clipboard"
+  wait_for clipboard_holds "$scratch/chain"
+}
+
+# string_button X: they stand in a row at the lower edge of the string window.
+string_button() {
+  local height
+  window_is_active "FFmpeg Equalizer String" || fail "the string window is not active"
+  height=$(xwininfo -id "$window" | awk '/Height:/ { print $2 }')
+  click_at "$window" "$1" $((height - 34))
+}
+
+clipboard_holds() {
+  timeout 5 xclip -out -selection clipboard 2>/dev/null | cmp -s "$1" -
+}
+
+render() {
+  save_as "$target"
+  arguments -y -i "$source_file" -af "volume=1.4,$chain" "$target"
+  expect_file "arguments of ffmpeg" "$scratch/arguments" "$folder/ffmpeg.args"
+  wait_for only_program_runs
+  ffmpeg -v error -i "$source_file" -af "volume=1.4,$chain" "$scratch/by hand.wav"
+  cmp -s "$scratch/by hand.wav" "$target" || fail "the rendered file is not the one made by hand"
+  close_saving
+}
+
+start_desktop
+real_tool ffprobe
+real_tool ffmpeg
+start_program
+open_the_source
+set_everything
+check_the_picture
+keep_in_preset
+move_everything
+load_the_preset
+take_the_string_away
+render
+click Exit
+wait_for nothing_runs

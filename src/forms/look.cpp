@@ -12,35 +12,6 @@ namespace {
 constexpr QRgb kFace = 0xFFD8D8D8;
 constexpr QRgb kFocus = 0xFF3070C0;
 
-/// Sliders keep an empty groove: what is coloured beside them are the program's own bars.
-class Style : public QProxyStyle {
- public:
-  Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
-
-  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
-                          const QWidget* widget) const override {
-    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_Slider || slider == nullptr) {
-      QProxyStyle::drawComplexControl(control, option, painter, widget);
-      return;
-    }
-    QStyleOptionSlider part = *slider;
-    part.subControls = slider->subControls & ~SC_SliderHandle;
-    part.palette.setColor(QPalette::Highlight, QColor(0xB8B8B8));
-    QProxyStyle::drawComplexControl(control, &part, painter, widget);
-    part = *slider;
-    part.subControls = SC_SliderHandle;
-    QProxyStyle::drawComplexControl(control, &part, painter, widget);
-  }
-
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* data) const override {
-    // Labels in a read-out change many times a second and are no menu: nothing here fades or animates.
-    if (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate) return 0;
-    return QProxyStyle::styleHint(hint, option, widget, data);
-  }
-};
-
 QPalette lightPalette() {
   QPalette palette{QColor(kFace)};
   palette.setColor(QPalette::Window, QColor(kFace));
@@ -56,6 +27,43 @@ QPalette lightPalette() {
   }
   return palette;
 }
+
+/// Sliders keep an empty groove: what is coloured beside them are the program's own bars.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStyleFactory::create("Fusion")), handle_(lightPalette()), groove_(handle_) {
+    groove_.setColor(QPalette::Highlight, QColor(0xB8B8B8));
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_Slider || slider == nullptr) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+      return;
+    }
+    QStyleOptionSlider part = *slider;
+    part.subControls = slider->subControls & ~SC_SliderHandle;
+    part.palette = groove_;
+    QProxyStyle::drawComplexControl(control, &part, painter, widget);
+    part.subControls = SC_SliderHandle;
+    part.palette = handle_;
+    QProxyStyle::drawComplexControl(control, &part, painter, widget);
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    // Labels in a read-out change many times a second and are no menu: nothing here fades or animates.
+    if (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+ private:
+  // The base style keeps the parts that it has drawn by palette: with one palette for all sliders it draws
+  // once.
+  QPalette handle_;
+  QPalette groove_;
+};
 
 }  // namespace
 

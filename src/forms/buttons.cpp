@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "forms/look.h"
+#include "forms/surface.h"
 
 namespace forms {
 namespace {
@@ -51,6 +52,7 @@ OptionButton::OptionButton(Form* form, const ControlData& data) : Control(form, 
   auto* button = static_cast<QRadioButton*>(widget());
   button->setText(literal(data.text != nullptr ? data.text : ""));
   button->setAutoFillBackground(true);
+  if (auto* surface = dynamic_cast<Surface*>(button->parentWidget())) surface->options().addButton(button);
   button->setChecked(data.look.selected);
   QObject::connect(button, &QRadioButton::clicked, button, [this] { raise(onClick); });
 }
@@ -68,9 +70,10 @@ void OptionButton::setValue(bool value) {
     return;
   }
   // The widget refuses to leave its group without a choice.
-  button->setAutoExclusive(false);
+  QButtonGroup* group = button->group();
+  if (group != nullptr) group->setExclusive(false);
   button->setChecked(false);
-  button->setAutoExclusive(true);
+  if (group != nullptr) group->setExclusive(true);
 }
 
 void OptionButton::adoptHandlers(const Control& other) {

@@ -1,6 +1,7 @@
 // The drawing ground of a form or a picture box, with the lines on it.
 #pragma once
 
+#include <QButtonGroup>
 #include <QWidget>
 #include <vector>
 
@@ -20,6 +21,9 @@ class Surface : public QWidget {
   double unitsPerPixel() const { return scale_ == Scale::Twips ? kTwipsPerPixel : 1; }
   void addLine(const Line* line) { lines_.push_back(line); }
   void removeLine(const Line* line) { std::erase(lines_, line); }
+  /// The option buttons that stand directly on this surface, of which one is selected. The widget toolkit's
+  /// own grouping would take those of inner surfaces in.
+  QButtonGroup& options() { return options_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -28,6 +32,7 @@ class Surface : public QWidget {
   bool border_;
   Scale scale_;
   std::vector<const Line*> lines_;
+  QButtonGroup options_;
 };
 
 /// Fills the outermost pixels of `extent`, whole ones on scaled screens too.

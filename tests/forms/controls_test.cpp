@@ -31,6 +31,10 @@ TEST_F(Controls, OptionsRaiseClickByHandAlwaysAndByAssignmentOnlyForADifference)
   EXPECT_TRUE(Form1->Option2(0).value()) << "arrow keys walk the group";
   EXPECT_EQ(clicks, "010");
   EXPECT_TRUE(Form1->Option3(1).value() && Form1->Option1(0).value()) << "other containers are other groups";
+  click(Form1->Option1(3));
+  EXPECT_FALSE(Form1->Option1(0).value());
+  EXPECT_TRUE(Form1->Option2(0).value() && Form1->Option3(1).value())
+      << "inner containers are other groups too";
 }
 
 TEST_F(Controls, TextIsTextWhateverItHolds) {

@@ -45,7 +45,9 @@ class Style : public QProxyStyle {
     QStyleOptionSlider part = *slider;
     part.subControls = slider->subControls & ~SC_SliderHandle;
     part.palette = groove_;
+    part.state &= ~State_HasFocus;
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
+    part.state = slider->state;
     part.subControls = SC_SliderHandle;
     part.palette = handle_;
     QProxyStyle::drawComplexControl(control, &part, painter, widget);

@@ -22,7 +22,7 @@ marked() {
 finish() {
   local pid
   for pid in $(marked) "${started[@]}"; do kill -KILL "$pid" 2>/dev/null; done
-  [ -n "${KEEP:-}" ] && cp "$scratch"/*.png /tmp/play/; rm -rf "$scratch"
+  rm -rf "$scratch"
 }
 
 # fail WHAT [EXPECTED GOT]: ends the test and leaves a picture of the screen in the current folder.
@@ -66,10 +66,29 @@ start_desktop() {
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
   export DISPLAY HOME XDG_RUNTIME_DIR
   mkdir -m 700 "$HOME"
-  openbox >/dev/null 2>&1 &
+  window_manager_settings >"$scratch/openbox.xml"
+  openbox --config-file "$scratch/openbox.xml" >/dev/null 2>&1 &
   started+=($!)
   disown
   wait_for desktop_is_managed
+}
+
+# No click inside a window concerns the window manager: one that looks at each first holds the mouse events of
+# a fast hand up, and hands them on with places where the mouse only got to later.
+window_manager_settings() {
+  cat <<'END'
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew></focus>
+  <mouse>
+    <context name="Close">
+      <mousebind button="Left" action="Click"><action name="Close"/></mousebind>
+    </context>
+    <context name="Iconify">
+      <mousebind button="Left" action="Click"><action name="Iconify"/></mousebind>
+    </context>
+  </mouse>
+</openbox_config>
+END
 }
 
 desktop_is_managed() {

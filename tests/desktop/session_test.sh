@@ -81,9 +81,9 @@ settled() {
 move_everything() {
   click "12 db"
   click "Low Cut Off"
-  drag_band 0 0 12 12
-  drag_band 20 0 -9 12
   click Decrease
+  drag_band 0 0 12 12 # Takes the blue from the gain label, too.
+  drag_band 19 0 -9 12 # The bar of a band that never moved would not come back.
   click_at "$main" 448 229
   keys End
   leave_mouse

@@ -1,11 +1,13 @@
 #include "forms/common_dialog.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTreeView>
 
 #include "forms/form.h"
@@ -68,6 +70,7 @@ QStringList nameFilters(const QString& pairs) {
 
 void CommonDialog::show(bool save) {
   const auto alive = form()->shared_from_this();
+  const QPointer<QWidget> before = QApplication::activeWindow();
   NameDialog dialog(form()->surface("")->window());
   dialog.setWindowTitle(toQt(title_));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -77,6 +80,7 @@ void CommonDialog::show(bool save) {
   dialog.setDirectory(toQt(initDir_));
   dialog.widenFilter();
   if (dialog.exec() == QDialog::Accepted) fileName_ = fromQt(dialog.chosen());
+  if (before) before->activateWindow();
 }
 
 }  // namespace forms

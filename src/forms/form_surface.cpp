@@ -35,7 +35,9 @@ FormSurface::FormSurface(Form& form, const FormData& formData)
 }
 
 QMargins FormSurface::frame() const {
-  return windowHandle() != nullptr && isVisible() ? windowHandle()->frameMargins() : lastFrame;
+  // A window that the desktop has not framed yet has no margins; without a frame at all, the guess has none.
+  const QMargins known = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+  return known.isNull() ? lastFrame : known;
 }
 
 QSize FormSurface::outerSize() const {

@@ -35,9 +35,8 @@ void place(QWidget& widget, int i, int columns, int top, QSize size) {
 template <class Widget>
 void putTexts(QWidget& parent, const char* texts, int columns, int top, QSize size) {
   int i = 0;
-  for (const QString& text : QString(texts).split('|')) {
+  for (const QString& text : QString(texts).split('|'))
     place(*new Widget(text, &parent), i++, columns, top, size);
-  }
 }
 
 void putSliders(QWidget& parent, int count, int top, QSize size, Qt::Orientation orientation) {

@@ -49,9 +49,8 @@ std::string runByHand(const std::string& command) {
   std::string text;
   char buffer[256];
   ssize_t count = 0;
-  while ((count = read(fileno(pipe), buffer, sizeof buffer)) > 0) {
+  while ((count = read(fileno(pipe), buffer, sizeof buffer)) > 0)
     text.append(buffer, static_cast<std::size_t>(count));
-  }
   pclose(pipe);
   return text;
 }
@@ -75,9 +74,8 @@ void print(const char* name, double value) {
 void setAllBands() {
   AppState.AudioGain = 1;
   AppState.BandWidth = 1;
-  for (int i = 0; i < kBands; ++i) {
+  for (int i = 0; i < kBands; ++i)
     setBandGainText(AppState.BandGainText[static_cast<std::size_t>(i)], i % 2 == 0 ? 3 : -3);
-  }
   composeChain(AppState.EqString, AppState);
   AppState.SourcePathShort = "source.wav";
 }
@@ -172,9 +170,8 @@ bool keepTwoProcessors() {
   cpu_set_t all, two;
   CPU_ZERO(&two);
   if (sched_getaffinity(0, sizeof all, &all) != 0) return false;
-  for (std::size_t cpu = 0; cpu < CPU_SETSIZE && CPU_COUNT(&two) < 2; ++cpu) {
+  for (std::size_t cpu = 0; cpu < CPU_SETSIZE && CPU_COUNT(&two) < 2; ++cpu)
     if (CPU_ISSET(cpu, &all)) CPU_SET(cpu, &two);
-  }
   return CPU_COUNT(&two) == 2 && sched_setaffinity(0, sizeof two, &two) == 0;
 }
 

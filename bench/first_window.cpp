@@ -42,9 +42,8 @@ bool waitForPaintedWindow(Display* display, Clock::time_point start) {
       XNextEvent(display, &event);
       XWindowAttributes attributes;
       if (event.type == MapNotify && XGetWindowAttributes(display, event.xmap.window, &attributes) != 0 &&
-          attributes.width >= kLeastWidth) {
+          attributes.width >= kLeastWidth)
         window = event.xmap.window;
-      }
     }
     if (window != None && isPainted(display, window)) return true;
     std::this_thread::sleep_for(100us);

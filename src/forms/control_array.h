@@ -38,9 +38,8 @@ class ControlArray {
   /// Does the same with each member, in rising order.
   template <class Action>
   void each(Action action) {
-    for (const auto& item : *items_) {
+    for (const auto& item : *items_)
       if (item) action(static_cast<T&>(*item));
-    }
   }
 
  private:

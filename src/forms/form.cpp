@@ -22,9 +22,7 @@ Form::Form(const FormData& data)
   for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, row));
   for (const LineData& row : data.lines) put(row.name, row.index, std::make_unique<Line>(this, row));
   for (const TimerData& row : data.timers) put(row.name, kSingle, std::make_unique<Timer>(this, row));
-  if (data.commonDialog != nullptr) {
-    put(data.commonDialog, kSingle, std::make_unique<CommonDialog>(this));
-  }
+  if (data.commonDialog != nullptr) put(data.commonDialog, kSingle, std::make_unique<CommonDialog>(this));
   makeTabOrder(data.controls);
 }
 
@@ -42,9 +40,8 @@ void Form::put(const char* name, int index, std::unique_ptr<Item> item) {
 
 void Form::makeTabOrder(std::span<const ControlData> controls) {
   std::vector<const ControlData*> rows;
-  for (const ControlData& row : controls) {
+  for (const ControlData& row : controls)
     if (row.tab >= 0) rows.push_back(&row);
-  }
   std::ranges::sort(rows, {}, &ControlData::tab);
   QWidget* previous = nullptr;
   for (const ControlData* row : rows) {

@@ -57,11 +57,10 @@ class Form : public std::enable_shared_from_this<Form> {
   /// A control that stands nowhere.
   template <class T>
   static std::unique_ptr<T> makeDetached() {
-    if constexpr (std::is_base_of_v<Line, T>) {
+    if constexpr (std::is_base_of_v<Line, T>)
       return std::make_unique<T>(nullptr, LineData{});
-    } else {
+    else
       return std::make_unique<T>(nullptr, ControlData{});
-    }
   }
 
  protected:

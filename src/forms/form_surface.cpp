@@ -48,11 +48,10 @@ void FormSurface::applyOuterSize() {
   assumedFrame_ = frame();
   const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
   asked_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
-  if (oneSize_) {
+  if (oneSize_)
     setFixedSize(asked_);
-  } else {
+  else
     resize(asked_);
-  }
 }
 
 void FormSurface::standBeside(const FormSurface* owner) {
@@ -75,13 +74,12 @@ void FormSurface::centre() {
 }
 
 void FormSurface::bringForward() {
-  if (isMinimized()) {
+  if (isMinimized())
     showNormal();
-  } else if (isVisible()) {
+  else if (isVisible())
     raise();
-  } else {
+  else
     show();
-  }
   activateWindow();
 }
 

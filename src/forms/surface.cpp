@@ -15,9 +15,7 @@ Surface::Surface(QWidget* parent, bool border, Scale scale)
 
 void Surface::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  if (border_) {
-    drawOutline(painter, rect(), QColor(0x646464));
-  }
+  if (border_) drawOutline(painter, rect(), QColor(0x646464));
   painter.setClipRect(event->rect() & rect().adjusted(border(), border(), -border(), -border()));
   painter.translate(border(), border());
   painter.scale(1 / unitsPerPixel(), 1 / unitsPerPixel());

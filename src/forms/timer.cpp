@@ -32,11 +32,10 @@ bool Timer::enabled() const {
 void Timer::setEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
-  if (enabled && interval_ > 0) {
+  if (enabled && interval_ > 0)
     timer_->start(interval_);
-  } else {
+  else
     timer_->stop();
-  }
 }
 
 }  // namespace forms

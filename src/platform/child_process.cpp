@@ -52,9 +52,7 @@ class OneProcessor {
     narrowed_ = sched_getaffinity(0, sizeof all_, &all_) == 0 && sched_setaffinity(0, sizeof one, &one) == 0;
   }
   ~OneProcessor() {
-    if (narrowed_) {
-      sched_setaffinity(0, sizeof all_, &all_);
-    }
+    if (narrowed_) sched_setaffinity(0, sizeof all_, &all_);
   }
   OneProcessor(const OneProcessor&) = delete;
   OneProcessor& operator=(const OneProcessor&) = delete;
@@ -89,9 +87,8 @@ class StartPlan {
   /// Process id of the new child, -1 where there is none.
   [[nodiscard]] pid_t run(const Command& command) const {
     std::vector<char*> arguments;
-    for (const std::string& argument : command.arguments) {
+    for (const std::string& argument : command.arguments)
       arguments.push_back(const_cast<char*>(argument.c_str()));
-    }
     arguments.push_back(nullptr);
     pid_t child = -1;
     const OneProcessor narrow;
@@ -110,9 +107,7 @@ class StartPlan {
 void widenThreads(Descriptor tasks) {
   cpu_set_t all;
   DIR* const folder = fdopendir(tasks.number());
-  if (folder == nullptr) {
-    return;
-  }
+  if (folder == nullptr) return;
   tasks.release();
   if (sched_getaffinity(0, sizeof all, &all) == 0) {
     // The second pass is for threads that came into being, narrow as their makers, during the first.
@@ -121,9 +116,7 @@ void widenThreads(Descriptor tasks) {
       while (const dirent* entry = readdir(folder)) {
         pid_t thread = 0;
         std::from_chars(entry->d_name, entry->d_name + std::strlen(entry->d_name), thread);
-        if (thread > 0) {
-          sched_setaffinity(thread, sizeof all, &all);
-        }
+        if (thread > 0) sched_setaffinity(thread, sizeof all, &all);
       }
     }
   }
@@ -140,19 +133,13 @@ bool ChildProcess::start(const std::string& commandLine) {
   close();
   const Command command = parseCommand(commandLine);
   int ends[2];
-  if (command.program.empty() || pipe2(ends, O_CLOEXEC) != 0) {
-    return false;
-  }
+  if (command.program.empty() || pipe2(ends, O_CLOEXEC) != 0) return false;
   Descriptor output(ends[0]);
   const Descriptor input(ends[1]);
   prepareSignals();
-  if (fcntl(output.number(), F_SETFL, O_NONBLOCK) != 0) {
-    return false;
-  }
+  if (fcntl(output.number(), F_SETFL, O_NONBLOCK) != 0) return false;
   const pid_t child = StartPlan(input.number()).run(command);
-  if (child < 0) {
-    return false;
-  }
+  if (child < 0) return false;
   output_ = std::move(output);
   // Opened now, while the number cannot belong to another process yet.
   const std::string tasks = "/proc/" + std::to_string(child) + "/task";
@@ -166,15 +153,9 @@ std::size_t ChildProcess::read(char* buffer, std::size_t size) {
     widenWhenDue();
     // Read first: a child that prints without a pause costs one system call a piece.
     const ssize_t count = ::read(output_.number(), buffer, size);
-    if (count > 0) {
-      return static_cast<std::size_t>(count);
-    }
-    if (count == 0 || (errno != EAGAIN && errno != EINTR)) {
-      break;
-    }
-    if (errno == EAGAIN) {
-      waitForOutput();
-    }
+    if (count > 0) return static_cast<std::size_t>(count);
+    if (count == 0 || (errno != EAGAIN && errno != EINTR)) break;
+    if (errno == EAGAIN) waitForOutput();
   }
   return 0;
 }
@@ -199,9 +180,7 @@ void ChildProcess::waitForOutput() const {
 }
 
 void ChildProcess::widenWhenDue() {
-  if (tasks_.isOpen() && steady_clock::now() >= widenAt_) {
-    widenThreads(std::move(tasks_));
-  }
+  if (tasks_.isOpen() && steady_clock::now() >= widenAt_) widenThreads(std::move(tasks_));
 }
 
 }  // namespace platform

@@ -24,17 +24,12 @@ std::string findProgram(std::string_view name) {
   const std::size_t kept = isBehindProgramFolder(name, kSeparators) ? programFolder().size() : 0;
   std::string path(name);
   std::replace(path.begin() + static_cast<std::ptrdiff_t>(kept), path.end(), '\\', '/');
-  if (!path.starts_with('/')) {
-    return {};
-  }
-  if (isFile(path)) {
-    return path;
-  }
-  if (path.ends_with(kExtension)) {
+  if (!path.starts_with('/')) return {};
+  if (isFile(path)) return path;
+  if (path.ends_with(kExtension))
     path.resize(path.size() - kExtension.size());
-  } else {
+  else
     path += kExtension;
-  }
   return isFile(path) ? path : std::string();
 }
 
@@ -61,20 +56,15 @@ std::vector<std::string> splitArguments(std::string_view commandLine) {
       begun = false;
     }
   }
-  if (begun) {
-    arguments.push_back(std::move(argument));
-  }
+  if (begun) arguments.push_back(std::move(argument));
   return arguments;
 }
 
 std::string quoteArgument(std::string_view argument) {
-  if (!argument.empty() && argument.find_first_of(" \t\"") == std::string_view::npos) {
+  if (!argument.empty() && argument.find_first_of(" \t\"") == std::string_view::npos)
     return std::string(argument);
-  }
   std::string quoted = "\"";
-  for (const char character : argument) {
-    quoted.append(character == '"' ? 2 : 1, character);
-  }
+  for (const char character : argument) quoted.append(character == '"' ? 2 : 1, character);
   return quoted + '"';
 }
 
@@ -88,9 +78,7 @@ Command parseCommand(std::string_view commandLine) {
   } else {
     command.arguments = splitArguments(commandLine);
   }
-  if (!command.arguments.empty()) {
-    command.program = findProgram(command.arguments.front());
-  }
+  if (!command.arguments.empty()) command.program = findProgram(command.arguments.front());
   return command;
 }
 

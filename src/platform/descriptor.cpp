@@ -21,11 +21,10 @@ bool Descriptor::close() {
 bool writeAll(const Descriptor& file, std::string_view content) {
   while (!content.empty()) {
     const ssize_t count = ::write(file.number(), content.data(), content.size());
-    if (count > 0) {
+    if (count > 0)
       content.remove_prefix(static_cast<std::size_t>(count));
-    } else if (count == 0 || errno != EINTR) {
+    else if (count == 0 || errno != EINTR)
       return false;
-    }
   }
   return true;
 }

@@ -16,9 +16,7 @@ namespace platform {
 std::string shortPath(const std::string& longPath) {
   struct stat status {};
   std::error_code error;
-  if (stat(longPath.c_str(), &status) != 0) {
-    return {};
-  }
+  if (stat(longPath.c_str(), &status) != 0) return {};
   const std::string path = std::filesystem::absolute(longPath, error).string();
   return error ? std::string() : quoteArgument(path);
 }

@@ -59,14 +59,10 @@ Place findKey(std::string_view text, std::string_view section, std::string_view 
     const std::string_view line = trimmed(text.substr(begin, end - begin));
     const std::size_t bracket = line.starts_with('[') ? line.find(']') : std::string_view::npos;
     if (bracket != std::string_view::npos) {
-      if (place.hasSection) {
-        break;
-      }
+      if (place.hasSection) break;
       place.hasSection = sameName(line.substr(1, bracket - 1), section);
     }
-    if (!place.hasSection || line.empty()) {
-      continue;
-    }
+    if (!place.hasSection || line.empty()) continue;
     place.sectionEnd = end;
     const std::size_t equals = line.find('=');
     // A comment needs no case of its own: what stands in front of its '=' begins with ';' or '#'.
@@ -81,9 +77,7 @@ Place findKey(std::string_view text, std::string_view section, std::string_view 
 
 /// `text` with the line `line` put at `at`, and the line in front of it ended where it was not.
 void insertLine(std::string& text, std::size_t at, std::string line) {
-  if (at > firstLine(text) && text[at - 1] != '\n') {
-    line.insert(0, kLineEnd);
-  }
+  if (at > firstLine(text) && text[at - 1] != '\n') line.insert(0, kLineEnd);
   text.insert(at, line.append(kLineEnd));
 }
 
@@ -121,22 +115,16 @@ struct Contents {
 std::optional<Contents> readContents(const fs::path& file, int access) {
   Contents contents;
   const Descriptor input(open(file.c_str(), access | O_NONBLOCK | O_CLOEXEC));
-  if (!input.isOpen()) {
-    return errno == ENOENT ? std::optional(contents) : std::nullopt;
-  }
-  if (fstat(input.number(), &contents.status) != 0 || !S_ISREG(contents.status.st_mode)) {
-    return std::nullopt;
-  }
+  if (!input.isOpen()) return errno == ENOENT ? std::optional(contents) : std::nullopt;
+  if (fstat(input.number(), &contents.status) != 0 || !S_ISREG(contents.status.st_mode)) return std::nullopt;
   contents.exists = true;
   char buffer[16384];
   ssize_t count = 0;
-  while ((count = read(input.number(), buffer, sizeof buffer)) != 0) {
-    if (count > 0) {
+  while ((count = read(input.number(), buffer, sizeof buffer)) != 0)
+    if (count > 0)
       contents.text.append(buffer, static_cast<std::size_t>(count));
-    } else if (errno != EINTR) {
+    else if (errno != EINTR)
       return std::nullopt;
-    }
-  }
   return contents;
 }
 
@@ -147,9 +135,7 @@ fs::path linkTarget(fs::path file) {
   for (int i = 0; i < mostLinks; ++i) {
     std::error_code error;
     const fs::path next = fs::read_symlink(file, error);
-    if (error) {
-      return file;
-    }
+    if (error) return file;
     file = file.parent_path() / next;
   }
   return {};
@@ -171,18 +157,14 @@ bool takePermissions(const Descriptor& file, const Contents& old) {
 /// Makes a rename in `folder` last. Some file systems cannot; the rename itself has been done all the same.
 void flushFolder(const fs::path& folder) {
   const Descriptor handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (handle.isOpen()) {
-    fsync(handle.number());
-  }
+  if (handle.isOpen()) fsync(handle.number());
 }
 
 /// Puts `text` in the place of `file`, in one step that a crash cannot cut in two.
 bool replaceFile(const fs::path& file, const Contents& old, std::string_view text) {
   std::string temporary = file.string() + ".XXXXXX";
   Descriptor output(mkostemp(temporary.data(), O_CLOEXEC));
-  if (!output.isOpen()) {
-    return false;
-  }
+  if (!output.isOpen()) return false;
   if (writeAll(output, text) && takePermissions(output, old) && fsync(output.number()) == 0 &&
       output.close() && std::rename(temporary.c_str(), file.c_str()) == 0) {
     flushFolder(file.parent_path());
@@ -215,17 +197,12 @@ std::string profileString(std::string_view section, std::string_view key, std::s
 
 bool writeProfileString(std::string_view section, std::string_view key, std::optional<std::string_view> value,
                         std::string_view file) {
-  for (const std::string_view part : {section, key, value.value_or("")}) {
-    if (part.find_first_of("\r\n") != std::string_view::npos) {
-      return false;
-    }
-  }
+  for (const std::string_view part : {section, key, value.value_or("")})
+    if (part.find_first_of("\r\n") != std::string_view::npos) return false;
   const fs::path target = linkTarget(nativePath(file));
   // Opened for writing too: a file that its owner made read-only is to stay as it is.
   const std::optional<Contents> old = readContents(target, O_RDWR);
-  if (!old) {
-    return false;
-  }
+  if (!old) return false;
   std::string text = old->text;
   return !compose(text, section, key, value) || replaceFile(target, *old, text);
 }

@@ -15,11 +15,8 @@ namespace {
 /// elsewhere than to the left.
 std::string withoutDots(const std::filesystem::path& folder) {
   std::filesystem::path result;
-  for (const std::filesystem::path& part : folder) {
-    if (!part.empty() && part != ".") {
-      result /= part;
-    }
-  }
+  for (const std::filesystem::path& part : folder)
+    if (!part.empty() && part != ".") result /= part;
   return result.string();
 }
 
@@ -29,12 +26,9 @@ std::string folderAtStart() {
   std::error_code error;
   // The name given to exec: unlike the link in /proc it still shows the links by which we were started.
   // NOLINTNEXTLINE(performance-no-int-to-ptr): the system hands the address over as a number.
-  if (const auto* name = reinterpret_cast<const char*>(getauxval(AT_EXECFN))) {
+  if (const auto* name = reinterpret_cast<const char*>(getauxval(AT_EXECFN)))
     file = std::filesystem::absolute(name, error);
-  }
-  if (error || !sameFile(file.string(), own)) {
-    file = std::filesystem::read_symlink(own, error);
-  }
+  if (error || !sameFile(file.string(), own)) file = std::filesystem::read_symlink(own, error);
   return withoutDots(file.parent_path());
 }
 

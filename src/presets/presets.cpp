@@ -42,9 +42,8 @@ void applyPass(const std::string& line, const std::vector<std::string_view>& ele
   assign(Form1->Slider2, gainPosition(presetField(line, "AudioGain=", 4)));
   Form1->Slider2_Scroll();
   const auto element = static_cast<std::size_t>(band);
-  if (AppState.PresetPass <= kBands && element < elements.size()) {
+  if (AppState.PresetPass <= kBands && element < elements.size())
     assign(Form1->Slider1(band), wholeNumber(elements[element]));
-  }
 }
 
 }  // namespace
@@ -87,11 +86,10 @@ void MainWindow::Timer3_Timer() {
   AppState.SweepTicks += 1;
   for (int i = 0; i < Slider1.count(); ++i) {
     forms::Slider& slider = Slider1(i);
-    if (slider.value() > 0) {
+    if (slider.value() > 0)
       slider.setValue(slider.value() - 1);
-    } else if (slider.value() < 0) {
+    else if (slider.value() < 0)
       slider.setValue(slider.value() + 1);
-    }
   }
   if (AppState.SweepTicks <= 32) return;
   AppState.SweepTicks = 0;

@@ -15,13 +15,11 @@ constexpr double kLeastWidth = 8820;
 /// One filter a line. The chain has no comma inside a filter.
 std::string commasToLines(const std::string& chain) {
   std::string lines;
-  for (const char c : chain) {
-    if (c == ',') {
+  for (const char c : chain)
+    if (c == ',')
       lines += "\r\n";
-    } else {
+    else
       lines += c;
-    }
-  }
   return lines;
 }
 

@@ -52,9 +52,8 @@ std::optional<std::string> durationSeconds(std::string_view output) {
 std::optional<std::string> durationSecondsOfRun(std::string_view output) {
   std::optional<std::string> found;
   for (auto rest = output; (!found || found->empty()) && rest.find(kDuration) != std::string_view::npos;
-       rest.remove_prefix(rest.find(kDuration) + kDuration.size())) {
+       rest.remove_prefix(rest.find(kDuration) + kDuration.size()))
     found = durationSeconds(rest);
-  }
   return found;
 }
 

@@ -13,9 +13,8 @@ using Controls = support::Session;
 
 TEST_F(Controls, OptionsRaiseClickByHandAlwaysAndByAssignmentOnlyForADifference) {
   std::string clicks;
-  for (int i = 0; i < 2; ++i) {
+  for (int i = 0; i < 2; ++i)
     Form1->Option2(i).onClick = [&clicks](int index) { clicks += std::to_string(index); };
-  }
   click(Form1->Option2(0));
   EXPECT_EQ(clicks, "0") << "a click on the selected one";
   Form1->Option2(0).setValue(true);

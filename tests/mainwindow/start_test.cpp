@@ -77,9 +77,8 @@ TEST_F(Start, ClipsNoCaption) {
 TEST_F(Start, NothingOverlapsThatTakesInput) {
   QList<QWidget*> takers;
   QWidget* window = Form1->Label6.widget()->window();
-  for (QWidget* widget : window->findChildren<QWidget*>()) {
+  for (QWidget* widget : window->findChildren<QWidget*>())
     if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus) takers += widget;
-  }
   EXPECT_EQ(takers.size(), 32 + 2 + 7 + 11 + 1 + 1);
   for (const QWidget* one : takers) {
     const QRect place(one->mapTo(window, QPoint()), one->size());
@@ -99,9 +98,8 @@ TEST_F(Start, TabsWalkTheStoredOrder) {
   for (int i = 0; i < 60 && (i == 0 || widget != Form1->Command1(0).widget()); ++i) {
     const auto* button = qobject_cast<QAbstractButton*>(widget);
     const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled();
-    if (stop && (button == nullptr || !button->autoExclusive() || button->isChecked())) {
+    if (stop && (button == nullptr || !button->autoExclusive() || button->isChecked()))
       order += widget->objectName().toStdString() + " ";
-    }
     widget = widget->nextInFocusChain();
   }
   std::string expected = "Command1(0) ";

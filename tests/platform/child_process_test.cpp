@@ -31,9 +31,7 @@ class ChildProcess : public testing::Test {
   std::string outputOf(const std::string& command) {
     std::string output;
     EXPECT_TRUE(child_.start(command));
-    for (std::string piece = next(); !piece.empty(); piece = next()) {
-      output += piece;
-    }
+    for (std::string piece = next(); !piece.empty(); piece = next()) output += piece;
     return output;
   }
 
@@ -107,9 +105,7 @@ TEST_F(ChildProcess, WorksWithItsParentsStandardStreamsClosed) {
   for (int first = 0; first < 3; ++first) {
     for (int last = first; last < 3; ++last) {
       const std::string output = support::inCopy(own_.file("result"), [&] {
-        for (int stream = first; stream <= last; ++stream) {
-          close(stream);
-        }
+        for (int stream = first; stream <= last; ++stream) close(stream);
         return outputOf(command);
       });
       EXPECT_EQ(output, "/dev/null\nout\nerr\n") << "without " << first << " to " << last;

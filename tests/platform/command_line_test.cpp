@@ -22,19 +22,15 @@ TEST(CommandLine, SplitsAtBlanksAndTabsOutsideQuotes) {
       {"a\\ b\\\"c d\" 'e f' $x *\n", {"a\\", "b\\c d", "'e", "f'", "$x", "*\n"}},
       {"\xC3\xA9\xFF \xE2\x82", {"\xC3\xA9\xFF", "\xE2\x82"}},
   };
-  for (const auto& [line, expected] : cases) {
+  for (const auto& [line, expected] : cases)
     EXPECT_EQ(platform::splitArguments(line), expected) << "of <" << line << ">";
-  }
 }
 
 TEST(CommandLine, QuotedArgumentSplitsBackIntoItself) {
   Arguments all = {""};  // In the end every text of up to four of the letters below.
   for (std::size_t i = 0; i < all.size(); ++i) {
-    for (const char letter : {'a', ' ', '\t', '"', '\\'}) {
-      if (all[i].size() < 4) {
-        all.push_back(all[i] + letter);
-      }
-    }
+    for (const char letter : {'a', ' ', '\t', '"', '\\'})
+      if (all[i].size() < 4) all.push_back(all[i] + letter);
     const std::string quoted = platform::quoteArgument(all[i]);
     EXPECT_EQ(platform::splitArguments("x " + quoted + " y"), (Arguments{"x", all[i], "y"}));
     EXPECT_EQ(quoted == all[i], !all[i].empty() && all[i].find_first_of(" \t\"") == std::string::npos)
@@ -48,9 +44,8 @@ TEST(CommandLine, FindsThePrograms) {
   platform::setProgramFolder(folder);
   std::filesystem::create_directories(folder + "/bin");
   std::filesystem::create_symlink("ffmpeg", folder + "/link");
-  for (const char* name : {"ffmpeg", "ffprobe.exe", "both", "both.exe", "bin/tool"}) {
+  for (const char* name : {"ffmpeg", "ffprobe.exe", "both", "both.exe", "bin/tool"})
     support::writeText(own, std::string("a \\b/") + name, "");
-  }
   const struct {
     std::string written, name, program;
   } cases[] = {

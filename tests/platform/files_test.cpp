@@ -44,9 +44,8 @@ TEST(Files, WriteFileReplacesTheContentAndNeverWaits) {
     EXPECT_TRUE(support::readFile(file) == content) << content.size();
   }
   ASSERT_EQ(mkfifo(folder.file("pipe").c_str(), 0600), 0);
-  for (const std::string& path : {folder.path(), folder.file("no/folder"), folder.file("pipe")}) {
+  for (const std::string& path : {folder.path(), folder.file("no/folder"), folder.file("pipe")})
     EXPECT_FALSE(platform::writeFile(path, "x")) << path;
-  }
   EXPECT_FALSE(platform::writeFile("/dev/full", "x"));
   const support::NamedPipe full(folder.file("pipe"));
   EXPECT_FALSE(platform::writeFile(folder.file("pipe"), large));
@@ -56,9 +55,8 @@ TEST(ProgramFolder, BackslashSeparatesBehindItAlone) {
   const support::OwnFolder own;
   const std::string& folder = own.path();
   EXPECT_EQ(platform::nativePath(folder + "\\a\\b"), folder + "/a/b");
-  for (const std::string& path : {folder, folder + "/a\\b", folder + "x\\b", std::string("/a\\b")}) {
+  for (const std::string& path : {folder, folder + "/a\\b", folder + "x\\b", std::string("/a\\b")})
     EXPECT_EQ(platform::nativePath(path), path);
-  }
   platform::setProgramFolder("/a/./b\\c/");
   EXPECT_EQ(platform::nativePath(platform::programFolder() + "\\d"), "/a/b\\c/d");
   platform::setProgramFolder("/");
@@ -68,9 +66,8 @@ TEST(ProgramFolder, BackslashSeparatesBehindItAlone) {
 TEST(ProgramFolder, HoldsThisProgram) {
   std::printf("<%s>\n", platform::programFolder().c_str());
   bool found = false;
-  for (const auto& entry : fs::directory_iterator(platform::programFolder())) {
+  for (const auto& entry : fs::directory_iterator(platform::programFolder()))
     found = found || platform::sameFile(entry.path().string(), "/proc/self/exe");
-  }
   EXPECT_TRUE(found) << platform::programFolder();
 }
 
@@ -83,9 +80,7 @@ TEST(ProgramFolder, IsThatOfTheLinkUsedAtTheStart) {
   ASSERT_TRUE(child.start(own.path() + "\\start"));
   std::string output;
   char buffer[256];
-  while (const std::size_t count = child.read(buffer, sizeof buffer)) {
-    output.append(buffer, count);
-  }
+  while (const std::size_t count = child.read(buffer, sizeof buffer)) output.append(buffer, count);
   EXPECT_NE(output.find("<" + own.path() + ">"), std::string::npos) << output;
   EXPECT_NE(output.find("[  PASSED  ] 1 test"), std::string::npos) << output;
 }

@@ -46,9 +46,7 @@ TEST_F(ProfileFile, Reads) {
       {"Frequency=0\n[Preset#11]\nFrequency=1\n[Preset#1\nFrequency=2\n", "default"},
       {std::string("\0\n[Preset#1]\nFrequency=\0", 24), std::string(1, '\0')},
   };
-  for (const auto& [content, expected] : cases) {
-    EXPECT_EQ(read(text(content)), expected) << "of\n" << content;
-  }
+  for (const auto& [content, expected] : cases) EXPECT_EQ(read(text(content)), expected) << "of\n" << content;
   const std::string file = text("[Preset#1]\nFrequency=12345\n");
   EXPECT_EQ(read(file, 6), "12345");
   EXPECT_EQ(read(file, 4), "123");
@@ -148,9 +146,8 @@ TEST_F(ProfileFile, AKillAtAnyMomentLeavesEveryPresetWhole) {
   const std::string whole = support::readFile(own_.file("file"));
   for (int round = 0; round < 200; ++round) {
     const pid_t saving = fork();
-    if (saving == 0) {
+    if (saving == 0)
       for (;;) write(own_.file("file"), line);
-    }
     usleep(static_cast<useconds_t>(std::rand() % 2000));
     kill(saving, SIGKILL);
     waitpid(saving, nullptr, 0);

@@ -17,9 +17,7 @@ namespace support {
 class TempFolder {
  public:
   TempFolder() : path_((std::filesystem::temp_directory_path() / "test folder.XXXXXX").string()) {
-    if (mkdtemp(path_.data()) == nullptr) {
-      path_.clear();
-    }
+    if (mkdtemp(path_.data()) == nullptr) path_.clear();
   }
   ~TempFolder() {
     std::error_code ignored;

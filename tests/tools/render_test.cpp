@@ -280,9 +280,8 @@ std::vector<double> samples(const std::string& wav) {
 /// Response in dB of an impulse of `height` at `frequency`.
 double responseDb(const std::vector<double>& impulse, double height, double frequency, double rate) {
   std::complex<double> sum = 0;
-  for (std::size_t i = 0; i < impulse.size(); ++i) {
+  for (std::size_t i = 0; i < impulse.size(); ++i)
     sum += impulse[i] * std::polar(1.0, -2 * M_PI * frequency / rate * static_cast<double>(i));
-  }
   return 20 * std::log10(std::abs(sum) / height);
 }
 

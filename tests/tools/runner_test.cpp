@@ -95,9 +95,8 @@ struct Holdings {
 Holdings holdings() {
   Holdings now;
   std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
+  for (std::string word; status >> word;)
     if (word == "VmRSS:") status >> now.memory;
-  }
   for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd"))
     ++now.descriptors;
   std::ifstream children("/proc/thread-self/children");

@@ -8,9 +8,8 @@ class Source : public support::Session {
  protected:
   /// Puts the real tool beside the program.
   void useRealTools() {
-    for (const char* tool : {"ffmpeg", "ffprobe"}) {
+    for (const char* tool : {"ffmpeg", "ffprobe"})
       std::filesystem::create_symlink(std::string("/usr/bin/") + tool, folder.file(tool));
-    }
   }
 };
 

@@ -2,10 +2,14 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QPointer>
 #include <QSettings>
 #include <QSocketNotifier>
 #include <QTimer>
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
+#include <vector>
 
 #include "forms/clipboard.h"
 #include "forms/look.h"
@@ -17,10 +21,20 @@ QApplication* application = nullptr;
 int waits = 0;
 bool ended = false;
 
+/// What came due inside a wait, at most one action for each object.
+std::vector<std::pair<QPointer<QObject>, std::function<void()>>> held;
+
 class Wait {
  public:
   Wait() { ++waits; }
-  ~Wait() { --waits; }
+  ~Wait() {
+    if (--waits > 0) return;
+    for (const auto& [object, action] : std::exchange(held, {})) {
+      if (!object) continue;
+      const auto again = [target = object.data(), action] { Application::whenServed(target, action); };
+      QMetaObject::invokeMethod(object, again, Qt::QueuedConnection);
+    }
+  }
   Wait(const Wait&) = delete;
   Wait& operator=(const Wait&) = delete;
 };
@@ -36,12 +50,7 @@ Application::Application() {
   QApplication::setAttribute(Qt::AA_Use96Dpi);
   // The file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-  // With the other event dispatcher a paint-only wait would let timers through. Children do not see the
-  // change.
-  const bool glibUnset = qEnvironmentVariableIsEmpty("QT_NO_GLIB");
-  if (glibUnset) qputenv("QT_NO_GLIB", "1");
   application = new QApplication(count, arguments);
-  if (glibUnset) qunsetenv("QT_NO_GLIB");
   applyLook(*application);
   QApplication::setQuitOnLastWindowClosed(false);
 }
@@ -81,6 +90,12 @@ void Application::waitPainting(int descriptor, int milliseconds) {
 
 bool Application::holdsBack() {
   return waits > 0 || ended;
+}
+
+void Application::whenServed(QObject* object, const std::function<void()>& action) {
+  if (!holdsBack()) return action();
+  const bool known = std::ranges::any_of(held, [&](const auto& entry) { return entry.first == object; });
+  if (!known) held.emplace_back(object, action);
 }
 
 void Application::end() {

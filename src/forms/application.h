@@ -1,6 +1,10 @@
 // The process as the desktop sees it: the event loop, what serves it in between, and its end.
 #pragma once
 
+#include <functional>
+
+class QObject;
+
 namespace forms {
 
 /// The one connection to the desktop. Made once, before the first window; reads no command line.
@@ -24,6 +28,10 @@ class Application {
 
   /// True inside `waitPainting` and once `end` has begun: no handler of the program may run.
   static bool holdsBack();
+
+  /// Runs `action` at once or, where the program is held back, as an event of `object` that is served after
+  /// that; an object has one such event at most.
+  static void whenServed(QObject* object, const std::function<void()>& action);
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();

@@ -73,7 +73,9 @@ void CommonDialog::show(bool save) {
   const QPointer<QWidget> before = QApplication::activeWindow();
   NameDialog dialog(form()->surface("")->window());
   dialog.setWindowTitle(toQt(title_));
-  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  // In its own mode for saving the dialog would change the typed name with the filter.
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  if (save) dialog.setLabelText(QFileDialog::Accept, "Save");
   const QStringList filters = nameFilters(toQt(filter_));
   dialog.setNameFilters(filters);
   if (filterIndex_ >= 1 && filterIndex_ <= filters.size()) dialog.selectNameFilter(filters[filterIndex_ - 1]);

@@ -49,7 +49,6 @@ Control::Control(Form* form, const ControlData& data, QWidget* widget)
           *this, qobject_cast<QLabel*>(widget) != nullptr || dynamic_cast<Surface*>(widget) != nullptr)),
       back_(data.look.back),
       fore_(data.look.fore),
-      transparent_(data.look.transparent),
       fontSize_(data.look.fontSize) {
   filter_->watch(widget);
   if (auto* scrolled = qobject_cast<QAbstractScrollArea*>(widget)) filter_->watch(scrolled->viewport());

@@ -60,7 +60,6 @@ class Control : public Item {
   void setForeColor(Color color);
   Color backColor() const { return back_; }
   void setBackColor(Color color);
-  double fontSize() const { return fontSize_; }
   /// Size of the text in points, at 96 points to 72 pixels.
   void setFontSize(double points);
   const std::string& toolTipText() const { return toolTip_; }
@@ -98,7 +97,6 @@ class Control : public Item {
   double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
   bool visible_ = true;
   Color back_, fore_;
-  bool transparent_;
   double fontSize_;
   std::string toolTip_;
 };

@@ -19,6 +19,7 @@ Form::Form(const FormData& data)
       outerWidth_(window_->outerSize().width() * kTwipsPerPixel),
       outerHeight_(window_->outerSize().height() * kTwipsPerPixel) {
   setCaption(data.caption);
+  if (data.icon != nullptr) setIcon(Icon(data.icon));
   for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, row));
   for (const LineData& row : data.lines) put(row.name, row.index, std::make_unique<Line>(this, row));
   for (const TimerData& row : data.timers) put(row.name, kSingle, std::make_unique<Timer>(this, row));

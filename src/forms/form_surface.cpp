@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -85,10 +84,6 @@ void FormSurface::bringForward() {
 
 void FormSurface::settle() {
   if (!isVisible()) return;
-  if (Application::holdsBack()) {
-    QTimer::singleShot(20, this, [this] { settle(); });
-    return;
-  }
   const bool wasMinimised = std::exchange(minimised_, isMinimized());
   if (minimised_) {
     if (!wasMinimised) form_.raise(form_.onResize);
@@ -116,7 +111,7 @@ bool FormSurface::event(QEvent* event) {
     case QEvent::Resize:
     case QEvent::WindowActivate:
     case QEvent::WindowStateChange:
-      settle();
+      Application::whenServed(this, [this] { settle(); });
       break;
     default:
       break;

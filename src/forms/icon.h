@@ -11,7 +11,8 @@ namespace forms {
 class Icon {
  public:
   Icon() = default;
-  explicit Icon(std::shared_ptr<const QIcon> picture) : picture_(std::move(picture)) {}
+  /// The built-in picture of this name; empty where there is none.
+  explicit Icon(const char* name);
 
   const QIcon* picture() const { return picture_.get(); }
 

@@ -13,9 +13,7 @@ class Label : public Control {
 
   const std::string& caption() const { return caption_; }
   void setCaption(const std::string& caption);
-  Alignment alignment() const { return alignment_; }
   void setAlignment(Alignment alignment);
-  bool autoSize() const { return autoSize_; }
   void setAutoSize(bool autoSize);
   /// True: what lies behind the label shows through.
   void setTransparent(bool transparent);

@@ -53,6 +53,13 @@ class Style : public QProxyStyle {
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
   }
 
+  SubControl hitTestComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   const QPoint& place, const QWidget* widget) const override {
+    const SubControl hit = QProxyStyle::hitTestComplexControl(control, option, place, widget);
+    // The groove itself is a few pixels thin: the whole thickness of the slider counts.
+    return control == CC_Slider && hit == SC_None ? SC_SliderGroove : hit;
+  }
+
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
     // Labels in a read-out change many times a second and are no menu: nothing here fades or animates.

@@ -13,17 +13,20 @@ Timer::Timer(Form* form, const TimerData& data)
       interval_(data.interval),
       enabled_(data.enabled) {
   timer_->setTimerType(Qt::PreciseTimer);
-  QObject::connect(timer_.get(), &QTimer::timeout, [this] {
-    if (ticking_ || Application::holdsBack() || !this->form()->isLoaded()) return;
-    const auto alive = this->form()->shared_from_this();
-    ticking_ = true;
-    raise(onTick);
-    ticking_ = false;
-  });
+  QObject::connect(timer_.get(), &QTimer::timeout,
+                   [this] { Application::whenServed(timer_.get(), [this] { tick(); }); });
   if (enabled_ && interval_ > 0) timer_->start(interval_);
 }
 
 Timer::~Timer() = default;
+
+void Timer::tick() {
+  if (ticking_ || !enabled_ || !form()->isLoaded()) return;
+  const auto alive = form()->shared_from_this();
+  ticking_ = true;
+  raise(onTick);
+  ticking_ = false;
+}
 
 bool Timer::enabled() const {
   return enabled_;

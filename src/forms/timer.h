@@ -9,8 +9,8 @@ class QTimer;
 
 namespace forms {
 
-/// Ticks at its interval while enabled. No tick comes while its own handler runs, during a paint-only wait or
-/// on a form that is not loaded.
+/// Ticks at its interval while enabled. No tick comes while its own handler runs or on a form that is not
+/// loaded; those that are due during a paint-only wait become one tick after it.
 class Timer : public Item {
  public:
   Timer(Form* form, const TimerData& data);
@@ -22,6 +22,8 @@ class Timer : public Item {
   Event onTick;
 
  private:
+  void tick();
+
   std::unique_ptr<QTimer> timer_;
   int interval_;
   bool enabled_;

@@ -23,9 +23,6 @@ class Window {
     if (const auto form = form_) form->unload();
   }
 
-  /// The window as it is loaded now, null where it is not; it lives as long as the result does.
-  std::shared_ptr<W> current() const { return form_; }
-
  private:
   const std::shared_ptr<W>& loaded() {
     if (!form_) {

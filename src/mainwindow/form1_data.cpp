@@ -106,7 +106,7 @@ constexpr SliderData kSliders[] = {
 // Name, interval in milliseconds, enabled.
 constexpr TimerData kTimers[] = {
     {"Timer1", 0, true},
-    {"Timer2", 200, true},
+    {"Timer2", 200, false},  // Nothing listens: its ticks would only wake an idle program.
     {"Timer3", 10, true},
 };
 // clang-format on
@@ -119,6 +119,7 @@ const FormData kForm1Data{
     .width = 17310,
     .height = 5100,
     .back = 0x808080,
+    .icon = "tessavane",
     .scale = Scale::Pixels,
     .oneSize = true,
     .minimiseButton = true,

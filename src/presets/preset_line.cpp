@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 #include "core/text.h"
 
@@ -10,6 +11,8 @@ namespace {
 
 /// Gain slider positions are worth 20 percent each.
 constexpr double kPercentPerPosition = 20;
+/// Outside the range of every slider, and small enough for every type of number.
+constexpr double kFarOut = 1000;
 
 std::string_view trimmed(std::string_view text) {
   const auto first = text.find_first_not_of(" \t");
@@ -17,7 +20,8 @@ std::string_view trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-/// The whole of `text` as a number; a plus sign is no obstacle.
+/// The whole of `text` as a number; a plus sign is no obstacle. One that is too large is the largest of its
+/// sign.
 template <class Number>
 std::optional<Number> parsed(std::string_view text) {
   text = trimmed(text);
@@ -25,7 +29,9 @@ std::optional<Number> parsed(std::string_view text) {
   Number number{};
   const char* const end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, number);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+  if (result.ec == std::errc::invalid_argument || result.ptr != end) return std::nullopt;
+  using Limits = std::numeric_limits<Number>;
+  if (result.ec != std::errc()) return text.front() == '-' ? Limits::lowest() : Limits::max();
   return number;
 }
 
@@ -54,5 +60,5 @@ std::optional<long long> wholeNumber(std::string_view text) {
 std::optional<long long> gainPosition(std::string_view percent) {
   const auto number = parsed<double>(percent);
   if (!number || !std::isfinite(*number)) return std::nullopt;
-  return std::llround(*number / kPercentPerPosition);
+  return std::llround(std::clamp(*number / kPercentPerPosition, -kFarOut, kFarOut));
 }

@@ -1,5 +1,7 @@
 #include "stringwindow/form3.h"
 
+#include <algorithm>
+
 #include "forms/application.h"
 #include "mainwindow/form1.h"
 #include "stringwindow/form3_data.h"
@@ -67,6 +69,8 @@ void EqStringWindow::ListIndividualStrings() {
   Text1.setEnabled(true);
   Command1(0).setEnabled(true);
   setCaption("Done.");
+  // From the beginning, also where the last one is still being shown.
+  Timer1.setEnabled(false);
   Timer1.setEnabled(true);
 }
 

@@ -17,13 +17,19 @@ forms::Window<RenderWindow> Form2;
 
 namespace {
 
-/// Targets of the renders that are running, as long paths. Renders nest on the one stack.
-std::vector<std::string> targets;
+struct RenderedFiles {
+  std::string source, target;
+};
+
+/// Long paths of the renders that are running. Renders nest on the one stack.
+std::vector<RenderedFiles> running;
 
 class Rendering {
  public:
-  explicit Rendering(const std::string& shortPath) { targets.push_back(platform::longPath(shortPath)); }
-  ~Rendering() { targets.pop_back(); }
+  explicit Rendering(const AppStateRecord& state) {
+    running.push_back({platform::longPath(state.SourcePathShort), platform::longPath(state.SavePathShort)});
+  }
+  ~Rendering() { running.pop_back(); }
   Rendering(const Rendering&) = delete;
   Rendering& operator=(const Rendering&) = delete;
 };
@@ -37,9 +43,14 @@ double number(const std::string& digits) {
 
 }  // namespace
 
-bool isBeingRendered(const std::string& path) {
-  return std::ranges::any_of(targets,
-                             [&](const std::string& target) { return platform::sameFile(target, path); });
+bool isReadByRender(const std::string& path) {
+  return std::ranges::any_of(
+      running, [&](const RenderedFiles& files) { return platform::sameFile(files.source, path); });
+}
+
+bool isWrittenByRender(const std::string& path) {
+  return std::ranges::any_of(
+      running, [&](const RenderedFiles& files) { return platform::sameFile(files.target, path); });
 }
 
 RenderWindow::RenderWindow()
@@ -71,7 +82,7 @@ void RenderWindow::DosCommand() {
   const auto runner = objDOS.get();
   runner->setCommandLine(renderCommand(platform::programFolder(), AppState));
   {
-    const Rendering rendering(AppState.SavePathShort);
+    const Rendering rendering(AppState);
     runner->ExecuteCommand("");
   }
   Label1(2).setCaption("Progress: 100% Completed");

@@ -29,5 +29,6 @@ class RenderWindow : public forms::Form {
 
 extern forms::Window<RenderWindow> Form2;
 
-/// True where a render that is running writes this file, by whatever name.
-bool isBeingRendered(const std::string& path);
+/// True where a render that is running reads this file, or writes it, by whatever name.
+bool isReadByRender(const std::string& path);
+bool isWrittenByRender(const std::string& path);

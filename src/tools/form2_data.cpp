@@ -33,7 +33,8 @@ constexpr ControlData kControls[] = {
     {Kind::Shape, "Shape2", kSingle, "Picture2", 120, 480, 4455, 255, -1, ""},
     {Kind::Shape, "Shape3", kSingle, "Picture2", 4560, 120, 1335, 255, -1, ""},
     {Kind::Shape, "Shape4", kSingle, "Picture2", 4560, 480, 1335, 255, -1, ""},
-    {Kind::MultiLineTextBox, "Text1", kSingle, "Picture1", 1440, 240, 12135, 1575, 1, "", {.back = kWindowBackground, .fore = kWindowText}},
+    // Below the window's edge, where the keyboard must not get lost.
+    {Kind::MultiLineTextBox, "Text1", kSingle, "Picture1", 1440, 240, 12135, 1575, 1, "", {.back = kWindowBackground, .fore = kWindowText, .disabled = true}},
 };
 
 constexpr LineData kLines[] = {{"Line1", kSingle, "", 240, 960, 6360, 960, 0xA0A0A0, 1}};
@@ -48,6 +49,7 @@ const FormData kForm2Data{
     .width = 6735,
     .height = 2985,
     .back = kLightGrey,
+    .icon = nullptr,
     .scale = Scale::Twips,
     .oneSize = true,
     .minimiseButton = false,

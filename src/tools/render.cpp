@@ -21,11 +21,13 @@ void SaveAsFile() {
   if (dialog.fileName().empty()) return;
 
   AppState.SavePath = dialog.fileName();
-  if (platform::sameFile(AppState.SavePath, platform::longPath(AppState.SourcePathShort))) {
+  const bool isSource = platform::sameFile(AppState.SavePath, platform::longPath(AppState.SourcePathShort)) ||
+                        isReadByRender(AppState.SavePath);
+  if (isSource) {
     // Under one and the same name the tool sees that it would overwrite what it reads, and refuses.
     AppState.SavePathShort = AppState.SourcePathShort;
   } else {
-    if (!isBeingRendered(AppState.SavePath)) platform::writeFile(AppState.SavePath, kMarker);
+    if (!isWrittenByRender(AppState.SavePath)) platform::writeFile(AppState.SavePath, kMarker);
     AppState.SavePathShort = GetShortPath(AppState.SavePath);
   }
   Form2.load();

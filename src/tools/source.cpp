@@ -45,10 +45,7 @@ void MainWindow::GetSourceDuration() {
 
 void MainWindow::objDOS_ReceiveOutputs(std::string& CommandOutputs) {
   forms::Application::doEvents();
-  for (auto at = CommandOutputs.find("\r\n"); at != std::string::npos; at = CommandOutputs.find("\r\n", at)) {
-    CommandOutputs.erase(at, 1);
-    CommandOutputs[at] = ' ';
-  }
+  blankLineEnds(CommandOutputs);
   if (const auto seconds = durationSeconds(CommandOutputs)) AppState.SourceSeconds = *seconds;
   objDOS.clear();
 }

@@ -43,15 +43,24 @@ std::optional<int> secondsOfTime(std::string_view text) {
   return (hours * 60 + minutes) * 60 + seconds;
 }
 
+void blankLineEnds(std::string& output) {
+  for (auto at = output.find("\r\n"); at != std::string::npos; at = output.find("\r\n", at)) {
+    output.erase(at, 1);
+    output[at] = ' ';
+  }
+}
+
 std::optional<std::string> durationSeconds(std::string_view output) {
   const auto hit = output.find(kDuration);
   if (hit == std::string_view::npos) return std::nullopt;
   return secondsText(part(output, hit + kDuration.size() + 1, kTimeLength));
 }
 
-std::optional<std::string> durationSecondsOfRun(std::string_view output) {
+std::optional<std::string> durationSecondsOfRun(std::string output) {
+  blankLineEnds(output);
   std::optional<std::string> found;
-  for (auto rest = output; (!found || found->empty()) && rest.find(kDuration) != std::string_view::npos;
+  for (std::string_view rest = output;
+       (!found || found->empty()) && rest.find(kDuration) != std::string_view::npos;
        rest.remove_prefix(rest.find(kDuration) + kDuration.size()))
     found = durationSeconds(rest);
   return found;
@@ -66,9 +75,12 @@ std::string_view progressTime(std::string_view piece) {
 
 std::string percentText(float value, float max) {
   const double percent = static_cast<double>(value) / (static_cast<double>(max) / 100);
-  if (!std::isfinite(percent)) return "00.00";
+  // An exact half goes up.
+  const double hundredths = std::round(percent * 100);
+  if (!std::isfinite(hundredths)) return "00.00";
   std::array<char, 64> buffer{};
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), percent, std::chars_format::fixed, 2).ptr;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), hundredths / 100,
+                                 std::chars_format::fixed, 2)
+                       .ptr;
   return padded({buffer.data(), end}, 5);
 }

@@ -32,7 +32,7 @@ TEST(ToolOutput, FindsTheDurationAsTheToolsWriteIt) {
       {"Duration: 00:03:2", "", ""},
       {"Duration: N/A, bitrate: N/A", "", ""},
       {"Duration: 25:00:00.00", "", ""},
-      {"title: Duration: long\n  Duration: 00:00:07.00", "", "7"},
+      {"title: Duration: long\r\n  Duration: 00:00:07.00", "", "7"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(durationSeconds(row.output), row.first) << row.output;
@@ -44,11 +44,9 @@ TEST(ToolOutput, FindsTheDurationAsTheToolsWriteIt) {
 TEST(ToolOutput, WritesPercentAndGainWithAPointInEveryLocale) {
   for (const char* locale : {"C", "de_DE.UTF-8"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;
-    const std::tuple<float, float, const char*> percents[] = {{0.F, 201.F, "00.00"},
-                                                              {60.F, 201.F, "29.85"},
-                                                              {120.F, 201.F, "59.70"},
-                                                              {201.F, 201.F, "100.00"},
-                                                              {9.F, 100.F, "09.00"}};
+    const std::tuple<float, float, const char*> percents[] = {
+        {0.F, 201.F, "00.00"},    {60.F, 201.F, "29.85"}, {120.F, 201.F, "59.70"},
+        {201.F, 201.F, "100.00"}, {1.F, 800.F, "00.13"},  {9.F, 100.F, "09.00"}};
     for (const auto& [value, max, text] : percents) EXPECT_EQ(percentText(value, max), text) << locale;
     const std::pair<double, const char*> gains[] = {{1, "1"},           {0.6, "0.6"}, {7 / 5.0, "1.4"},
                                                     {-7 / 5.0, "-1.4"}, {0, "0"},     {-2, "-2"}};

@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
 #include <QPointer>
@@ -29,6 +30,8 @@ class Wait {
   Wait() { ++waits; }
   ~Wait() {
     if (--waits > 0) return;
+    // Input that was held back would lie there until the desktop sends something new.
+    QAbstractEventDispatcher::instance()->wakeUp();
     for (const auto& [object, action] : std::exchange(held, {})) {
       if (!object) continue;
       const auto again = [target = object.data(), action] { Application::whenServed(target, action); };

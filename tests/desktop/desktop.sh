@@ -121,7 +121,7 @@ start_program() {
 
 # The window with that title; its id is left in $window.
 window_is_active() {
-  window=$(xdotool getactivewindow 2>/dev/null) && [ "$(xdotool getwindowname "$window")" = "$1" ]
+  window=$(xdotool getactivewindow 2>/dev/null) && [ "$(xdotool getwindowname "$window" 2>/dev/null)" = "$1" ]
 }
 
 no_window() {

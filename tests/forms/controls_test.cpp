@@ -116,11 +116,9 @@ TEST_F(Controls, APaintOnlyWaitPaintsAndHoldsBackInputAndClosing) {
   std::string order;
   Form1->onQueryUnload = [&] { order += "closed"; };
   QCloseEvent close;
-  {
-    QTimer::singleShot(1, [&] { QApplication::sendEvent(label->window(), &close); });
-    QTimer::singleShot(1, [&] { label->window()->showMinimized(); });
-    forms::Application::waitPainting(ends[0], 50);
-  }
+  QTimer::singleShot(1, [&] { QApplication::sendEvent(label->window(), &close); });
+  QTimer::singleShot(1, [&] { label->window()->showMinimized(); });
+  forms::Application::waitPainting(ends[0], 50);
   EXPECT_FALSE(AppState.WindowMinimised) << "Resize inside the wait";
   EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; })) << "Resize was lost";
   EXPECT_EQ(order, "") << "a close inside the wait";

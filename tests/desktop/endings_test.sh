@@ -1,0 +1,55 @@
+#!/bin/bash
+# Whatever ends the program in the middle of a render, it is gone at once and the tool finishes the file.
+. "$(dirname "$0")/desktop.sh"
+
+source_file="$scratch/noise.wav"
+target="$folder/out.wav"
+
+end_program() {
+  case $1 in
+    Exit) click Exit ;;
+    close) close_button ;;
+    server) kill "${started[0]}" ;;
+    *) kill -s "$1" "$running" ;;
+  esac
+}
+
+# At the right end of the title bar.
+close_button() {
+  local top
+  top=$(xprop -id "$main" _NET_FRAME_EXTENTS | cut -d, -f3)
+  click_at "$main" "$(($(xwininfo -id "$main" | awk '/Width:/ { print $2 }') - 10))" $((-top / 2))
+}
+
+# FFmpeg writes blocks of 32 KB, about a third of a second each here.
+writes_the_middle() {
+  [ "$(stat -c %s "$target")" -gt 50000 ]
+}
+
+# With a point, although the program runs in a language that writes a comma.
+minimised_window_counts() {
+  xprop -id "$main" WM_NAME | grep -qE '"Velm:  [0-9]{2}\.[0-9]{2}%"'
+}
+
+start_desktop
+real_tool ffprobe
+tool ffmpeg <<<"exec $(command -v ffmpeg) -re \"\$@\""
+ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
+for ending in close Exit TERM HUP server; do
+  start_program LC_ALL=de_DE.UTF-8
+  open_source "$source_file"
+  click_at "$main" "$(band_x 18)" 70
+  save_as "$target"
+  wait_for writes_the_middle
+  if [ "$ending" = TERM ]; then
+    xdotool windowminimize "$main"
+    wait_for minimised_window_counts
+  fi
+  end_program "$ending"
+  wait_for program_has_ended
+  nothing_runs && fail "the render was over before the program by $ending"
+  wait_for nothing_runs
+  [ -e "$scratch/by hand.wav" ] ||
+    ffmpeg -v error -i "$source_file" -af "volume=1,$(chain 1 {,,,,,,,,,,,,,,,,,}-0 5 {,,,,,,,,,,,,}-0)" "$scratch/by hand.wav"
+  cmp "$scratch/by hand.wav" "$target" || fail "the file is not complete after $ending"
+done

@@ -22,8 +22,13 @@ QApplication* application = nullptr;
 int waits = 0;
 bool ended = false;
 
+struct Held {
+  QPointer<QObject> object;
+  std::function<void()> action;
+};
+
 /// What came due inside a wait, at most one action for each object.
-std::vector<std::pair<QPointer<QObject>, std::function<void()>>> held;
+std::vector<Held> held;
 
 class Wait {
  public:
@@ -32,10 +37,10 @@ class Wait {
     if (--waits > 0) return;
     // Input that was held back would lie there until the desktop sends something new.
     QAbstractEventDispatcher::instance()->wakeUp();
-    for (const auto& [object, action] : std::exchange(held, {})) {
-      if (!object) continue;
-      const auto again = [target = object.data(), action] { Application::whenServed(target, action); };
-      QMetaObject::invokeMethod(object, again, Qt::QueuedConnection);
+    for (const Held& due : std::exchange(held, {})) {
+      if (!due.object) continue;
+      const auto again = [due] { Application::whenServed(due.object, due.action); };
+      QMetaObject::invokeMethod(due.object, again, Qt::QueuedConnection);
     }
   }
   Wait(const Wait&) = delete;
@@ -54,7 +59,7 @@ Application::Application() {
   // The file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   application = new QApplication(count, arguments);
-  applyLook(*application);
+  applyLook();
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -72,7 +77,7 @@ void Application::doEvents() {
 }
 
 void Application::waitPainting(int descriptor, int milliseconds) {
-  const Wait held;
+  const Wait wait;
   constexpr auto kPaintOnly = QEventLoop::ExcludeUserInputEvents;
   if (milliseconds == 0) {
     QCoreApplication::processEvents(kPaintOnly);
@@ -97,8 +102,8 @@ bool Application::holdsBack() {
 
 void Application::whenServed(QObject* object, const std::function<void()>& action) {
   if (!holdsBack()) return action();
-  const bool known = std::ranges::any_of(held, [&](const auto& entry) { return entry.first == object; });
-  if (!known) held.emplace_back(object, action);
+  const bool known = std::ranges::any_of(held, [&](const Held& due) { return due.object == object; });
+  if (!known) held.push_back({object, action});
 }
 
 void Application::end() {

@@ -99,10 +99,10 @@ QFont fontOf(double points, bool bold) {
   return font;
 }
 
-void applyLook(QApplication& application) {
+void applyLook() {
   QApplication::setStyle(new Style);
   QApplication::setPalette(lightPalette());
-  application.setFont(fontOf(8.25, false));
+  QApplication::setFont(fontOf(8.25, false));
 }
 
 }  // namespace forms

@@ -8,8 +8,6 @@
 
 #include "forms/color.h"
 
-class QApplication;
-
 namespace forms {
 
 inline QString toQt(const std::string& text) {
@@ -25,6 +23,6 @@ QColor toQt(Color color);
 QFont fontOf(double points, bool bold);
 
 /// Gives the application the program's own look, the same on every desktop.
-void applyLook(QApplication& application);
+void applyLook();
 
 }  // namespace forms

@@ -48,9 +48,8 @@ std::vector<std::string_view> presetElements(std::string_view line) {
 }
 
 std::string_view presetField(std::string_view line, std::string_view marker, std::size_t count) {
-  const auto hit = std::ranges::search(line, marker, {}, lowerAscii, lowerAscii);
-  if (hit.empty()) return {};
-  return line.substr(static_cast<std::size_t>(hit.end() - line.begin()), count);
+  const auto place = findAnyCase(line, marker);
+  return place == std::string_view::npos ? std::string_view() : line.substr(place + marker.size(), count);
 }
 
 std::optional<long long> wholeNumber(std::string_view text) {

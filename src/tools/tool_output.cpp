@@ -1,6 +1,5 @@
 #include "tools/tool_output.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -67,9 +66,8 @@ std::optional<std::string> durationSecondsOfRun(std::string output) {
 }
 
 std::string_view progressTime(std::string_view piece) {
-  const auto hit = std::ranges::search(piece, kTime, {}, lowerAscii);
-  if (hit.empty()) return {};
-  const auto place = static_cast<std::size_t>(hit.begin() - piece.begin());
+  const auto place = findAnyCase(piece, kTime);
+  if (place == std::string_view::npos) return {};
   return part(piece, place + kTime.size() + 1, kTimeLength);
 }
 

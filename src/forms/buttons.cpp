@@ -16,6 +16,14 @@ QString literal(const std::string& caption) {
   return toQt(caption).replace("&", "&&");
 }
 
+/// Tab stops once in a group: at its choice, or anywhere where it has none. The widget toolkit itself sees to
+/// this only after the first visit.
+void makeTabStops(const QButtonGroup& group) {
+  const auto* choice = group.checkedButton();
+  for (QAbstractButton* button : group.buttons())
+    button->setFocusPolicy(choice == nullptr || choice == button ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 class PushButton : public QPushButton {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -52,8 +60,13 @@ OptionButton::OptionButton(Form* form, const ControlData& data) : Control(form, 
   auto* button = static_cast<QRadioButton*>(widget());
   button->setText(literal(data.text != nullptr ? data.text : ""));
   button->setAutoFillBackground(true);
-  if (auto* surface = dynamic_cast<Surface*>(button->parentWidget())) surface->options().addButton(button);
   button->setChecked(data.look.selected);
+  if (auto* surface = dynamic_cast<Surface*>(button->parentWidget())) {
+    QButtonGroup& group = surface->options();
+    group.addButton(button);
+    makeTabStops(group);
+    QObject::connect(button, &QRadioButton::toggled, button, [&group] { makeTabStops(group); });
+  }
   QObject::connect(button, &QRadioButton::clicked, button, [this] { raise(onClick); });
 }
 

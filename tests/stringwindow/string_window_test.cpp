@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QPlainTextEdit>
 
+#include "stringwindow/form3_data.h"
 #include "support/session.h"
 
 namespace {
@@ -8,111 +9,80 @@ namespace {
 class StringWindow : public support::Session {
  protected:
   static void open() { Form1->Command1_Click(6); }
-  static void compose() { Form1->Slider3.setValue(Form1->Slider3.value() == 1 ? 2 : 1); }
+  static void compose() { Form1->Slider3.setValue(3 - Form1->Slider3.value()); }
   static QPlainTextEdit& box() { return *static_cast<QPlainTextEdit*>(Form3->Text1.widget()); }
-  static std::string listed() {
-    std::string lines;
-    for (const char c : AppState.EqString) lines += c == ',' ? "\r\n" : std::string(1, c);
-    return lines;
-  }
+  static QString chain() { return QString::fromStdString(AppState.EqString); }
+  static std::string listed() { return chain().replace(",", "\r\n").toStdString(); }
 };
 
 TEST_F(StringWindow, ShowsEveryChainAndStandsEmptyWhenItIsOpenedAnew) {
   open();
-  EXPECT_EQ(Form3->Text1.text(), "");
   compose();
   forms::Application::doEvents();
-  EXPECT_EQ(box().toPlainText().toStdString(), AppState.EqString);
+  EXPECT_EQ(box().toPlainText(), chain());
   click(Form3->Command1(1));
-  EXPECT_FALSE(Form3.isLoaded());
   open();
   EXPECT_EQ(Form3->Text1.text(), "");
   click(Form3->Command1(1));
   compose();
   open();
-  EXPECT_EQ(box().toPlainText().toStdString(), AppState.EqString) << "loaded hidden by the composition";
+  EXPECT_EQ(box().toPlainText(), chain()) << "loaded hidden by the composition";
 }
 
 TEST_F(StringWindow, MovesItsControlsWithItsSize) {
   open();
-  QWidget* window = box().window();
-  const auto sizes = [] {
-    return QList<double>{Form3->Text1.width(), Form3->Text1.height(), Form3->Command1(0).top(),
-                         Form3->Command1(1).left()};
+  const std::tuple<int, int, QList<double>> rows[] = {
+      {572, 254, {564, 184, 204, 451}}, {900, 500, {880, 430, 450, 767}}, {900, 50, {880, 430, 450, 767}}};
+  for (const auto& [width, height, expected] : rows) {
+    box().window()->resize(width, height);
+    QList<double> found{Form3->Text1.width(), Form3->Text1.height()};
+    found << Form3->Command1(0).top() << Form3->Command1(1).left();
+    EXPECT_EQ(found, expected) << "at a height of " << height;
+  }
+}
+
+TEST_F(StringWindow, ListsOneFilterALineWhileTheProgramIsServedAndSaysSoForAWhile) {
+  open();
+  click(Form3->Command1(2));
+  EXPECT_EQ(Form3->caption(), kForm3Data.caption) << "an empty box";
+  compose();
+  std::string meanwhile;
+  Form3->Text1.onChange = [&](int) {
+    meanwhile = Form3->caption() + (Form3->Command1(0).enabled() || Form3->Text1.enabled() ? "!" : "");
   };
-  window->resize(572, 254);
-  EXPECT_EQ(Form3->width(), 8820) << "never narrower";
-  EXPECT_EQ(sizes(), (QList<double>{window->width() - 20.0, 184, 204, window->width() - 133.0}));
-  window->resize(900, 500);
-  EXPECT_EQ(sizes(), (QList<double>{880, 430, 450, 900 - 20 - 113}));
-  EXPECT_EQ(Form3->Command1(2).left(), 136);
-  window->resize(900, 50);
-  EXPECT_EQ(sizes(), (QList<double>{880, 430, 450, 767})) << "too low for the box";
-}
-
-TEST_F(StringWindow, ListsOneFilterALineAndSaysSoForAWhile) {
-  open();
-  click(Form3->Command1(2));
-  EXPECT_EQ(Form3->caption(), "FFmpeg Equalizer String") << "an empty box";
-  compose();
-  std::string captions;
-  QTimer watch(qApp);
-  QObject::connect(&watch, &QTimer::timeout, [&] {
-    captions = Form3->caption() + (Form3->Command1(0).enabled() || Form3->Text1.enabled() ? "!" : "");
-    watch.stop();
-  });
-  QTimer::singleShot(0, [&] { watch.start(1); });
-  click(Form3->Command1(2));
-  EXPECT_EQ(captions, "Working...");
-  EXPECT_EQ(Form3->Text1.text(), listed());
-  EXPECT_EQ(Form3->caption(), "Done.");
-  EXPECT_TRUE(Form3->Text1.enabled() && Form3->Command1(0).enabled());
-  click(Form3->Command1(2));
-  EXPECT_EQ(Form3->Text1.text(), listed()) << "listed twice";
-  EXPECT_TRUE(support::waitFor([] { return Form3->caption() == "FFmpeg Equalizer String"; }));
-  EXPECT_FALSE(Form3->Timer1.enabled());
-  compose();
-  EXPECT_EQ(Form3->Text1.text(), AppState.EqString);
-}
-
-TEST_F(StringWindow, ServesTheProgramWhileItLists) {
-  open();
-  compose();
   QTimer::singleShot(1, [] { Form1->Slider1(4).setValue(-8); });
   click(Form3->Command1(2));
+  EXPECT_EQ(meanwhile + Form3->caption(), "Working...Done.");
+  EXPECT_EQ(Form1->Slider1(4).value(), -8);
   EXPECT_EQ(Form3->Text1.text(), listed()) << "a chain composed meanwhile";
-  EXPECT_NE(Form3->Text1.text().find("f=33:width_type=o:width=2:g=8\r\n"), std::string::npos);
-  compose();
+  EXPECT_TRUE(Form3->Text1.enabled() && Form3->Command1(0).enabled());
+  QTimer::singleShot(kForm3Data.timers[0].interval, Qt::PreciseTimer, [&] { meanwhile = Form3->caption(); });
+  click(Form3->Command1(2));
+  EXPECT_EQ(Form3->Text1.text(), listed()) << "listed twice";
+  EXPECT_TRUE(support::waitFor([&] { return meanwhile != "Working..." && !Form3->Timer1.enabled(); }));
+  EXPECT_EQ(meanwhile + Form3->caption(), "Done.FFmpeg Equalizer String") << "from the second listing on";
   QTimer::singleShot(1, [] { click(Form3->Command1(1)); });
   click(Form3->Command1(2));
   EXPECT_FALSE(Form3.isLoaded()) << "closed while it lists";
 }
 
 TEST_F(StringWindow, SavesAndCopiesWhatTheBoxShows) {
-  open();
-  const auto saved = [this] {
-    answerDialog(folder.file("chain"));
+  const auto saved = [this](const std::string& path) {
+    answerDialog(path);
     click(Form3->Command1(0));
     return support::readFile(folder.file("chain"));
   };
-  EXPECT_EQ(saved(), "\r\n");
+  open();
   compose();
-  EXPECT_EQ(saved(), AppState.EqString + "\r\n");
+  EXPECT_EQ(saved(folder.file("chain")), AppState.EqString + "\r\n");
   click(Form3->Command1(2));
-  EXPECT_EQ(saved(), listed() + "\r\n");
-  answerDialog("");
-  click(Form3->Command1(0));
-  EXPECT_EQ(support::readFile(folder.file("chain")), listed() + "\r\n");
-
+  EXPECT_EQ(saved(""), AppState.EqString + "\r\n") << "cancelled";
   click(Form3->Command1(3));
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(), listed());
   EXPECT_EQ(Form3->Command1(3).caption(), "Data On Clipboard");
   QTest::keyClicks(&box(), "#");
   EXPECT_EQ(Form3->Command1(3).caption(), "Copy to Clipboard");
-  EXPECT_EQ(saved(), "#" + listed() + "\r\n") << "an edit, with the line ends of the list";
-  click(Form3->Command1(3));
-  compose();
-  EXPECT_EQ(Form3->Command1(3).caption(), "Copy to Clipboard");
+  EXPECT_EQ(saved(folder.file("chain")), "#" + listed() + "\r\n") << "an edit of the list";
 }
 
 }  // namespace

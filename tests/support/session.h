@@ -9,7 +9,6 @@
 #include <QTest>
 #include <QTimer>
 #include <functional>
-#include <string>
 
 #include "core/app_state.h"
 #include "core/main.h"
@@ -29,21 +28,26 @@ inline bool waitFor(const std::function<bool()>& condition) {
 /// The program after its start, in a folder of its own that has no tools yet.
 class Session : public testing::Test {
  protected:
-  Session() {
-    AppState = {};
-    Main();
-  }
-
+  Session() { Main(); }
   ~Session() override {
     Form3.unload();
     Form2.unload();
     // The handlers of the main window would end the process.
     Form1->onQueryUnload = Form1->onUnload = Form1->onTerminate = nullptr;
     Form1.unload();
+    AppState = {};
     forms::Application::doEvents();
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << "a window is left over";
   }
 
+  static void click(forms::Control& control) { QTest::mouseClick(control.widget(), Qt::LeftButton); }
+  static void key(forms::Control& control, Qt::Key key) { QTest::keyClick(control.widget(), key); }
+  static void openSource(const std::string& path) { clickAndAnswer(Form1->Command1(0), path); }
+  static void saveAs(const std::string& path) { clickAndAnswer(Form1->Command1(3), path); }
+  static void clickAndAnswer(forms::Control& button, const std::string& path) {
+    answerDialog(path);
+    click(button);
+  }
   /// Answers the next file dialog with `path`, or with a Cancel where it is empty.
   static void answerDialog(const std::string& path) {
     auto* timer = new QTimer(qApp);
@@ -58,18 +62,6 @@ class Session : public testing::Test {
       QTest::keyClick(name, Qt::Key_Return);
     });
     timer->start(1);
-  }
-
-  static void click(forms::Control& control) { QTest::mouseClick(control.widget(), Qt::LeftButton); }
-  static void key(forms::Control& control, Qt::Key key) { QTest::keyClick(control.widget(), key); }
-
-  static void openSource(const std::string& path) {
-    answerDialog(path);
-    click(Form1->Command1(0));
-  }
-  static void saveAs(const std::string& path) {
-    answerDialog(path);
-    click(Form1->Command1(3));
   }
 
   OwnFolder folder;

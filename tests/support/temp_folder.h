@@ -1,45 +1,29 @@
 // A folder of a test's own, and the files and fake tools in it.
 #pragma once
 
-#include <stdlib.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <string>
 
 #include "platform/program_folder.h"
 
 namespace support {
 
-/// A new empty folder with a blank in its name, removed at its end with all that is in it.
-class TempFolder {
+/// A new empty folder with a blank in its name, the program's own until it is removed at its end.
+class OwnFolder {
  public:
-  TempFolder() : path_((std::filesystem::temp_directory_path() / "test folder.XXXXXX").string()) {
-    if (mkdtemp(path_.data()) == nullptr) path_.clear();
+  OwnFolder() { platform::setProgramFolder(mkdtemp(path_.data())); }
+  ~OwnFolder() {
+    platform::setProgramFolder(before_);
+    std::filesystem::remove_all(path_);
   }
-  ~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
+  OwnFolder(const OwnFolder&) = delete;
 
   const std::string& path() const { return path_; }
   std::string file(const std::string& name) const { return path_ + "/" + name; }
 
  private:
-  std::string path_;
-};
-
-/// A temporary folder that is the program's own while it lives.
-class OwnFolder : public TempFolder {
- public:
-  OwnFolder() { platform::setProgramFolder(path()); }
-  ~OwnFolder() { platform::setProgramFolder(before_); }
-
- private:
+  std::string path_ = std::filesystem::temp_directory_path() / "test folder.XXXXXX";
   std::string before_ = platform::programFolder();
 };
 
@@ -50,16 +34,14 @@ inline std::string readFile(const std::string& path) {
 }
 
 /// Writes a file and returns its path.
-inline std::string writeText(const TempFolder& folder, const std::string& name, const std::string& text) {
+inline std::string writeText(const OwnFolder& folder, const std::string& name, const std::string& text) {
   std::ofstream(folder.file(name), std::ios::binary) << text;
   return folder.file(name);
 }
 
-/// Writes a shell script that can be started as a program, and returns its path.
-inline std::string writeScript(const TempFolder& folder, const std::string& name, const std::string& text) {
-  const std::string path = writeText(folder, name, "#!/bin/sh\n" + text);
-  std::filesystem::permissions(path, std::filesystem::perms(0755));
-  return path;
+/// Writes a shell script that can be started as a program.
+inline void writeScript(const OwnFolder& folder, const std::string& name, const std::string& text) {
+  std::filesystem::permissions(writeText(folder, name, "#!/bin/sh\n" + text), std::filesystem::perms(0755));
 }
 
 /// Runs a shell command to its end. Its status is lost, because children are reaped by the system.

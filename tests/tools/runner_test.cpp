@@ -38,40 +38,26 @@ class Runner : public testing::Test {
 };
 
 TEST_F(Runner, HandsOnPiecesOf256BytesAndAnEmptyOneAtTheEnd) {
-  const auto runner = start("head -c 600 /dev/zero | tr '\\0' x > \"$0.x\"; cat \"$0.x\" >&2");
-  const std::string output = runner->ExecuteCommand();
-  EXPECT_EQ(output, std::string(600, 'x'));
-  EXPECT_EQ(runner->Outputs(), output);
-  ASSERT_EQ(pieces.size(), 4U);
-  EXPECT_EQ(pieces[0].size(), 256U);
-  EXPECT_EQ(pieces[1].size(), 256U);
-  EXPECT_EQ(pieces[2].size(), 88U);
-  EXPECT_EQ(pieces[3], "");
-}
-
-TEST_F(Runner, RaisesOneEmptyPieceForAChildThatPrintsNothingAndNoneWithoutAChild) {
-  EXPECT_EQ(start("exit 1")->ExecuteCommand(), "");
-  EXPECT_EQ(pieces, std::vector<std::string>{""});
-  pieces.clear();
-  const auto runner = start("echo old");
-  runner->ExecuteCommand();
+  const auto runner = start("head -c 300 /dev/zero | tr '\\0' x >&2");
+  EXPECT_EQ(runner->ExecuteCommand(), std::string(300, 'x'));
+  EXPECT_EQ(runner->Outputs(), std::string(300, 'x'));
+  EXPECT_EQ(pieces, (std::vector<std::string>{std::string(256, 'x'), std::string(44, 'x'), ""}));
   pieces.clear();
   EXPECT_EQ(runner->ExecuteCommand(folder.path() + "\\missing"), "");
-  EXPECT_TRUE(pieces.empty());
-  EXPECT_EQ(runner->Outputs(), "old\n") << "the output of the run before";
+  EXPECT_TRUE(pieces.empty()) << "without a child";
+  EXPECT_EQ(runner->Outputs().size(), 300U) << "the output of the run before";
   EXPECT_EQ(runner->CommandLine(), folder.path() + "\\missing");
   EXPECT_EQ(DOSOutputs().ExecuteCommand(), "");
 }
 
-TEST_F(Runner, KeepsTheOutputWhateverTheHandlerDoesToItsCopy) {
-  then = [](std::string& piece) { piece = "changed"; };
-  EXPECT_EQ(start("printf 'a\\000b\\377'")->ExecuteCommand(), std::string("a\0b\377", 4));
-}
-
-TEST_F(Runner, CutsTheConnectionAtOnceAlsoInsideTheHandler) {
-  then = [this](std::string&) { objDOS.clear(); };
-  EXPECT_EQ(start("echo one; sleep 0.05; echo two")->ExecuteCommand(), "one\ntwo\n");
-  EXPECT_EQ(pieces, std::vector<std::string>{"one\n"});
+TEST_F(Runner, LetsTheHandlerChangeItsCopyAndCutTheConnectionAtOnce) {
+  then = [this](std::string& piece) {
+    piece = "changed";
+    objDOS.clear();
+  };
+  EXPECT_EQ(start("printf 'a\\000b\\377'; sleep 0.05; echo two")->ExecuteCommand(),
+            std::string("a\0b\377two\n", 8));
+  EXPECT_EQ(pieces, std::vector<std::string>{std::string("a\0b\377", 4)});
 }
 
 TEST_F(Runner, NestsRunsThatShareNothing) {
@@ -106,15 +92,13 @@ Holdings holdings() {
 
 TEST_F(Runner, LeavesNothingBehindAfterTenThousandRuns) {
   std::filesystem::create_symlink("/bin/echo", folder.file("echo"));
-  const auto run = [&] { ASSERT_EQ(start("")->ExecuteCommand(folder.path() + "\\echo hello"), "hello\n"); };
-  for (int i = 0; i < 500; ++i) run();
-  const Holdings before = holdings();
-  for (int i = 500; i < 10000; ++i) {
-    pieces.clear();
+  Holdings before;
+  for (int i = 0; i < 10000; ++i) {
+    if (i == 500) before = holdings();
     ASSERT_EQ(std::make_shared<DOSOutputs>()->ExecuteCommand(folder.path() + "\\echo hello"), "hello\n");
   }
   const Holdings after = holdings();
-  EXPECT_EQ(after.descriptors, before.descriptors);
+  EXPECT_LE(after.descriptors, before.descriptors);
   EXPECT_LE(after.children, 1) << "the last one may be on its way out";
   EXPECT_LT(after.memory - before.memory, 8192) << "KiB";
 }

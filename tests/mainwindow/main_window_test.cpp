@@ -1,0 +1,187 @@
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QLabel>
+#include <QMouseEvent>
+
+#include "support/session.h"
+
+namespace {
+
+constexpr forms::Color kGreen = 0x80FF80, kYellow = 0x80FFFF, kRed = 0xFF, kBlue = 0xFF0000;
+
+class MainWindowTest : public support::Session {
+ protected:
+  /// Moves the mouse over a widget, with no button down.
+  static void hover(QWidget* widget) {
+    QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), widget->mapToGlobal(QPointF(3, 3)), {}, {}, {});
+    QApplication::sendEvent(widget, &move);
+  }
+  static void hover(const forms::Control& control) { hover(control.widget()); }
+  static std::string readOut(int index) { return Form1->Label7(index).caption(); }
+  QWidget* window = Form1->Label6.widget()->window();
+};
+
+TEST_F(MainWindowTest, ReachesTheFirstIdleState) {
+  std::string shown = Form1->caption() + "|" + Form1->Text1.text() + "|" + Form1->Command1(8).caption();
+  for (const auto* label : {&Form1->Label2(0), &Form1->Label2(1), &Form1->Label4(3), &Form1->Label8(3)})
+    shown += "|" + label->caption();
+  for (int i = 0; i < 8; ++i) shown += "|" + readOut(i);
+  EXPECT_EQ(shown,
+            "Tessavane Graphic Equalizer|<%InputFile%>| EQ String > Clipboard|+12db|-12db|Gain:100%|"
+            "Current Bandwidth Settings: 001 Hz|Preset Settings: 0|EQ Range: +/- 12 db|Low Cut Filter: Off|"
+            "Indicators: On|Selected Frequency: 0hz|Gain Settings 100% Of Source|Current Bandwidth: 001 Hz|"
+            "Selected Frequency Value:  0db");
+  for (const int button : {0, 2, 3, 6, 7, 8, 10})
+    EXPECT_EQ(Form1->Command1(button).enabled(), button == 0 || button == 6 || button == 10) << button;
+  EXPECT_FALSE(Form1->Label6.visible() || Form1->Timer3.enabled() || Form2.isLoaded() || Form3.isLoaded());
+  EXPECT_EQ(Form1->Line10.x1() - Form1->Line10.x2(), 62.5);
+  for (int i = 0; i < 32; ++i) {
+    EXPECT_EQ(Form1->Label9(i).caption(), std::to_string(i + 1));
+    EXPECT_NEAR(Form1->Label9(i).widget()->geometry().center().x(), 51 + 30 * i, 8) << i;
+    EXPECT_EQ(Form1->Slider1(i).left(), 25 + 30 * i);
+  }
+}
+
+TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
+  Form1->Slider2.setValue(-10);
+  Form1->Slider3.setValue(254);
+  Form1->Slider1(29).setValue(12);
+  const auto fits = [](const auto* widget, int edges) {
+    const int needed = widget->fontMetrics().horizontalAdvance(widget->text()) + edges;
+    EXPECT_LE(needed, widget->width()) << qPrintable(widget->text());
+  };
+  for (const auto* label : window->findChildren<QLabel*>()) fits(label, 0);
+  for (const auto* button : window->findChildren<QAbstractButton*>()) fits(button, 8);
+}
+
+/// The name of a box stands for that option button in it that takes the focus.
+TEST_F(MainWindowTest, TabsWalkTheStoredOrderFromTheFirstButton) {
+  ASSERT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); }));
+  QString order;
+  QString expected = "Command1(0) ";
+  for (int i = 0; i < 32; ++i) expected += QString("Slider1(%1) ").arg(i);
+  expected += "Slider2 Option1(0) Text1 Option2(0) Option3(1) Command1(6) Command1(10) Check1 Slider3 ";
+  for (int i = 0; i < 42; ++i) {
+    QWidget* widget = QApplication::focusWidget();
+    order += widget->objectName() + " ";
+    QTest::keyClick(widget, Qt::Key_Tab);
+  }
+  EXPECT_EQ(order.toStdString(), expected.toStdString());
+}
+
+TEST_F(MainWindowTest, HoldsItsSizeAndKnowsWhenItIsMinimised) {
+  const QSize before = window->size();
+  window->setMinimumSize(0, 0);
+  window->resize(400, 300);
+  EXPECT_TRUE(support::waitFor([&] { return window->size() == before; })) << window->width();
+  EXPECT_EQ(Form1->width(), 17550);
+  window->showMinimized();
+  EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; }));
+  window->showNormal();
+  EXPECT_TRUE(support::waitFor([] { return !AppState.WindowMinimised; }));
+}
+
+TEST_F(MainWindowTest, ShowsABandWithItsBarAndColourAlsoWhileBarsAreHidden) {
+  const std::tuple<int, int, std::string, double, forms::Color> rows[] = {
+      {0, -5, "5db", 25, kGreen},  {0, -6, "6db", 30, kYellow},   {0, -10, "10db", 50, kYellow},
+      {0, -11, "11db", 55, kRed},  {0, 12, "-12db", -60, kGreen}, {1, -2, "2db", 20, kGreen},
+      {1, -3, "3db", 30, kYellow}, {1, -5, "5db", 50, kYellow},   {1, -6, "6db", 60, kRed}};
+  click(Form1->Check1);
+  EXPECT_EQ(readOut(3), "Indicators: Off");
+  for (const auto& [range, value, text, length, color] : rows) {
+    click(Form1->Option2(range));
+    Form1->Slider1(19).setValue(value);
+    const forms::Line& bar = Form1->Line4(19);
+    EXPECT_EQ(readOut(4) + readOut(7), "Selected Frequency: 1.25KSelected Frequency Value: " + text);
+    EXPECT_EQ(bar.y2(), Form1->Line1.y1());
+    EXPECT_EQ(bar.y2() - bar.y1(), length) << text << " in range " << range;
+    EXPECT_EQ(bar.borderColor(), color) << text << " in range " << range;
+  }
+  for (int i = 0; i < 32; ++i) EXPECT_FALSE(Form1->Line4(i).visible()) << i;
+  click(Form1->Check1);
+  EXPECT_EQ(readOut(3), "Indicators: On");
+  for (int i = 0; i < 32; ++i) EXPECT_TRUE(Form1->Line4(i).visible()) << i;
+}
+
+TEST_F(MainWindowTest, ShowsTheGainWhichComposesNothingAndTheBandwidth) {
+  const std::pair<int, forms::Color> gains[] = {{-10, kRed},  {0, kRed},    {1, kGreen}, {5, kGreen},
+                                                {6, kYellow}, {7, kYellow}, {8, kRed}};
+  for (const auto& [value, color] : gains) {
+    const std::string percent = std::to_string(value * 20) + "%";
+    Form1->Slider2.setValue(value);
+    EXPECT_EQ(readOut(5) + Form1->Label4(3).caption(),
+              "Gain Settings " + percent + " Of SourceGain:" + percent);
+    EXPECT_EQ(Form1->Line10.x1() - Form1->Line10.x2(), value * 12.5);
+    EXPECT_EQ(Form1->Line10.borderColor(), color) << percent;
+  }
+  EXPECT_EQ(AppState.EqString, "");
+  Form1->Slider3.setValue(25);
+  EXPECT_EQ(Form1->Label8(3).caption(), "Current Bandwidth Settings: 025 Hz");
+  EXPECT_EQ(readOut(6), "Current Bandwidth: 025 Hz");
+}
+
+TEST_F(MainWindowTest, AChangeOfRangeZeroesEveryBand) {
+  for (const int limit : {6, 12}) {
+    Form1->Slider1(9).setValue(-6);
+    click(Form1->Option2(limit == 6 ? 1 : 0));
+    for (int i = 0; i < 32; ++i) {
+      const forms::Slider& band = Form1->Slider1(i);
+      EXPECT_TRUE(band.value() == 0 && band.min() == -limit && band.max() == limit) << i;
+      EXPECT_EQ(band.tickFrequency(), limit / 6) << i;
+    }
+    const std::string text = std::to_string(limit);
+    EXPECT_EQ(Form1->Label2(0).caption() + Form1->Label2(1).caption() + readOut(1),
+              "+" + text + "db-" + text + "dbEQ Range: +/- " + text + " db");
+    EXPECT_EQ(Form1->Line4(9).y1(), Form1->Line4(9).y2());
+  }
+}
+
+TEST_F(MainWindowTest, TheClipboardButtonTellsOfACopyUntilTheNextChange) {
+  for (forms::Slider* changed : {&Form1->Slider3, &Form1->Slider1(0), &Form1->Slider2}) {
+    Form1->Command1_Click(8);
+    click(Form1->Option3(0));
+    EXPECT_EQ(Form1->Command1(8).caption(), "Data On Clipboard") << "nothing was composed";
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), AppState.EqString);
+    changed->setValue(changed->value() + 1);
+    EXPECT_EQ(Form1->Command1(8).caption(), "EQ String > Clipboard");
+  }
+}
+
+TEST_F(MainWindowTest, MarksTheBandUnderTheMouseAndTellsWhatTheLowCutIs) {
+  for (const int band : {7, 30}) hover(Form1->Slider1(band));
+  for (forms::Label* label : {&Form1->Label1(3), &Form1->Label9(3), &Form1->Label7(1)}) hover(*label);
+  EXPECT_TRUE(Form1->Label6.visible()) << "a label let a move through";
+  EXPECT_EQ(Form1->Label6.left(), Form1->Slider1(30).left() + 16 + 8.5);
+  for (int i = 0; i < 32; ++i) EXPECT_EQ(Form1->Label1(i).foreColor(), i == 30 ? kRed : 0) << i;
+  hover(window);
+  EXPECT_FALSE(Form1->Label6.visible());
+  EXPECT_EQ(Form1->Label1(30).foreColor(), 0U);
+  const std::string cuts = "Selected) Cuts Potentially Damaging Frequencies 25Hz 20Hz 19Hz ";
+  for (const int chosen : {1, 0}) {
+    click(Form1->Option3(chosen));
+    hover(Form1->Option3(chosen));
+    EXPECT_EQ(Form1->Option3(0).toolTipText(), (chosen == 0 ? " (" : " (Not ") + cuts);
+    EXPECT_EQ(Form1->Option3(1).toolTipText(),
+              chosen == 0 ? " (Not " + cuts : " (Selected) Allows Frequencies 25Hz 20Hz 19Hz ");
+  }
+}
+
+TEST_F(MainWindowTest, GainLabelsLightUntilAPlaceThatResetsAndWorkOnReleaseOfAnyButton) {
+  for (forms::Control* place : std::initializer_list<forms::Control*>{
+           &Form1->Picture1(2), &Form1->Picture4, &Form1->Text1, &Form1->Slider1(0), &Form1->Slider2}) {
+    for (const int label : {1, 2}) hover(Form1->Label4(label));
+    for (QWidget* other : {Form1->Label8(0).widget(), Form1->Slider3.widget(), window}) hover(other);
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(Form1->Label4(i).foreColor(), i == 2 ? kBlue : 0) << i;
+    hover(*place);
+    EXPECT_EQ(Form1->Label4(2).foreColor(), 0U) << place->widget()->objectName().toStdString();
+  }
+  QTest::mousePress(Form1->Label4(1).widget(), Qt::RightButton);
+  EXPECT_EQ(Form1->Slider2.value(), 5);
+  QTest::mouseRelease(Form1->Label4(1).widget(), Qt::RightButton);
+  for (const auto& [label, expected] : {std::pair{3, 4}, {2, 5}, {0, 0}, {1, -1}}) {
+    click(Form1->Label4(label));
+    EXPECT_EQ(Form1->Slider2.value(), expected) << "label " << label;
+  }
+}
+
+}  // namespace

@@ -14,15 +14,18 @@ class DOSOutputs {
   void setCommandLine(const std::string& DosCommand) { mCommand = DosCommand; }
   std::string CommandLine() const { return mCommand; }
   /// Everything that the last run that started has printed so far.
-  std::string Outputs() const { return mOutputs; }
+  const std::string& Outputs() const { return mOutputs; }
 
   /// Runs `CommandLine`, or where it is empty the command line set before, until the child's output ends, and
   /// returns the output. `ReceiveOutputs` is raised for each read of at most 256 bytes, the last time with an
-  /// empty text. Where no child can be started it returns the empty text and raises nothing.
-  std::string ExecuteCommand(const std::string& CommandLine = "");
+  /// empty text. Where no child can be started it returns the empty text and raises nothing. Output that no
+  /// memory is left for is read and handed on all the same, so that the child does not stall, but not kept.
+  const std::string& ExecuteCommand(const std::string& CommandLine = "");
 
  private:
   friend class RunnerVariable;
+
+  void keep(const char* piece, std::size_t size);
 
   std::string mCommand;
   std::string mOutputs;

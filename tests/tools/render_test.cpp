@@ -1,5 +1,8 @@
+#include <sys/resource.h>
+
 #include <cmath>
 #include <complex>
+#include <csignal>
 #include <cstring>
 #include <sstream>
 #include <vector>
@@ -36,7 +39,7 @@ class Render : public support::Session {
   /// the tool has ended.
   bool renderMeanwhile(const std::string& name, const std::function<void()>& hand) {
     fakeRender(
-        "for last; do :; done; printf data > \"$last\"; echo run >> \"$0.runs\"\n"
+        "for last; do :; done; printf data > \"$last\"; echo $$ > \"$0.pid\"; echo run >> \"$0.runs\"\n"
         "until [ -e \"$0.go\" ]; do echo time=00:00:09; sleep 0.02; done; echo > \"$0.done\"");
     QTimer person(qApp);
     QObject::connect(&person, &QTimer::timeout, [&] {
@@ -47,7 +50,10 @@ class Render : public support::Session {
     });
     person.start(1);
     saveAs(folder.file(name));
-    return support::waitFor([this] { return std::filesystem::exists(folder.file("ffmpeg.done")); });
+    return support::waitFor([this] {
+      return std::filesystem::exists(folder.file("ffmpeg.done")) ||
+             (Form2.isLoaded() && !Form2->Timer1.enabled());
+    });
   }
 
   std::string source;
@@ -194,6 +200,23 @@ TEST_F(Render, AWindowClosedInTheMiddleIsNotMissedAndDoesNotComeBack) {
   EXPECT_EQ(Form1->caption(), "untouched");
 }
 
+TEST_F(Render, WhateverIsTakenAwayMeanwhileItEndsAndTheWindowWorksOn) {
+  for (const char* fault :
+       {"kill -KILL $(cat ffmpeg.pid)", "kill -STOP $(cat ffmpeg.pid); kill -CONT $(cat ffmpeg.pid)",
+        "rm ffmpeg; echo > ffmpeg", "rm 'source file.wav'", "rm -r sub"}) {
+    std::filesystem::create_directory(folder.file("sub"));
+    EXPECT_TRUE(renderMeanwhile("sub/out.wav", [&] {
+      support::shell("cd '" + folder.path() + "'; " + fault);
+    })) << fault;
+    ASSERT_TRUE(finished()) << fault;
+    EXPECT_EQ(Form2->Label1(2).caption(), "Progress: 100% Completed") << fault;
+    Form1->Slider1(3).setValue(Form1->Slider1(3).value() + 1);
+    EXPECT_EQ(AppState.BandGainText[3], std::to_string(-Form1->Slider1(3).value())) << fault;
+    Form2.unload();
+    support::shell("cd '" + folder.path() + "'; rm -rf ffmpeg*");
+  }
+}
+
 TEST_F(Render, TheWindowWorksOnWhileItRenders) {
   support::writeScript(folder, "ffplay", "echo played > \"$0.done\"");
   EXPECT_TRUE(renderMeanwhile("one.wav", [&] {
@@ -234,6 +257,22 @@ TEST_F(RealRender, WritesTheBytesThatTheCommandWritesByHand) {
   std::filesystem::create_symlink(source, folder.file("link.wav"));
   render("link.wav");
   EXPECT_TRUE(support::readFile(source) == before) << "the real tool spoilt its source through a link";
+}
+
+TEST_F(RealRender, AFullDiskEndsItAndLeavesTheSource) {
+  makeSource("anoisesrc=d=4");
+  Form1->Slider1(2).setValue(1);
+  const std::string before = support::readFile(source);
+  rlimit all{};
+  getrlimit(RLIMIT_FSIZE, &all);
+  signal(SIGXFSZ, SIG_IGN);
+  const rlimit full{100000, all.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  render("out.wav");
+  setrlimit(RLIMIT_FSIZE, &all);
+  EXPECT_EQ(Form2->Label1(2).caption(), "Progress: 100% Completed");
+  EXPECT_EQ(support::readFile(folder.file("out.wav")).size(), 100000U);
+  EXPECT_TRUE(support::readFile(source) == before);
 }
 
 /// Samples of a 16-bit mono WAV file.

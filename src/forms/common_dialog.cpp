@@ -43,9 +43,8 @@ class NameDialog : public QFileDialog {
  protected:
   void accept() override {
     auto* line = findChild<QLineEdit*>("fileNameEdit");
-    const QString typed = line != nullptr ? line->text() : QString();
-    if (typed.isEmpty()) return;
-    const QString path = QDir(directory()).absoluteFilePath(typed);
+    if (line == nullptr || line->text().isEmpty()) return;
+    const QString path = QDir(directory()).absoluteFilePath(line->text());
     if (QFileInfo(path).isDir()) {
       setDirectory(path);
       line->clear();

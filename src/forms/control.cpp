@@ -2,7 +2,6 @@
 
 #include <QAbstractScrollArea>
 #include <QEvent>
-#include <QLabel>
 #include <QPalette>
 #include <QWidget>
 
@@ -45,8 +44,7 @@ bool MouseFilter::eventFilter(QObject* /*watched*/, QEvent* event) {
 Control::Control(Form* form, const ControlData& data, QWidget* widget)
     : Item(form, data.index),
       widget_(widget),
-      filter_(new MouseFilter(
-          *this, qobject_cast<QLabel*>(widget) != nullptr || dynamic_cast<Surface*>(widget) != nullptr)),
+      filter_(new MouseFilter(*this, data.kind == Kind::Label || data.kind == Kind::PictureBox)),
       back_(data.look.back),
       fore_(data.look.fore),
       fontSize_(data.look.fontSize) {

@@ -85,11 +85,11 @@ class Control : public Item {
   virtual void refit() {}
   void setExtent(double left, double width, double height);
   double unitsPerPixel() const;
-  virtual void applyColors();
 
  private:
   friend class MouseFilter;
   void place();
+  void applyColors();
 
   QWidget* widget_;
   MouseFilter* filter_;

@@ -46,10 +46,9 @@ Label::Label(Form* form, const ControlData& data)
     : Control(form, data, makeLabel()),
       alignment_(data.look.alignment),
       autoSize_(data.look.autoSize),
-      elided_(data.look.elided),
-      clear_(data.look.transparent) {
+      elided_(data.look.elided) {
   static_cast<QLabel*>(widget())->setAlignment(toQt(alignment_));
-  applyColors();
+  setTransparent(data.look.transparent);
   setCaption(data.text != nullptr ? data.text : "");
 }
 
@@ -73,13 +72,7 @@ void Label::setAutoSize(bool autoSize) {
 }
 
 void Label::setTransparent(bool transparent) {
-  clear_ = transparent;
-  applyColors();
-}
-
-void Label::applyColors() {
-  Control::applyColors();
-  widget()->setAutoFillBackground(!clear_);
+  widget()->setAutoFillBackground(!transparent);
 }
 
 void Label::refit() {

@@ -7,7 +7,7 @@ namespace forms {
 
 /// Plain text, never markup. A label that sizes itself keeps the edge, or the centre, that its alignment
 /// names.
-class Label : public Control {
+class Label final : public Control {
  public:
   Label(Form* form, const ControlData& data);
 
@@ -20,7 +20,6 @@ class Label : public Control {
 
  protected:
   void refit() override;
-  void applyColors() override;
 
  private:
   void fitToText();
@@ -29,7 +28,6 @@ class Label : public Control {
   Alignment alignment_;
   bool autoSize_;
   bool elided_;
-  bool clear_;
 };
 
 /// The outline of its extent. It is no target for the mouse.

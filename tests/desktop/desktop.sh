@@ -112,7 +112,8 @@ real_tool() {
 start_program() {
   mkdir -p "$folder"
   ln -sf "$program" "$folder/tessavane"
-  env -u QT_QPA_PLATFORM -u QT_SCALE_FACTOR -u WAYLAND_DISPLAY "$mark" "$@" "$folder/tessavane" 2>"$scratch/errors" &
+  env -u QT_QPA_PLATFORM -u QT_SCALE_FACTOR -u WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS=none: "$mark" "$@" \
+    "$folder/tessavane" 2>"$scratch/errors" &
   running=$!
   disown
   wait_for window_is_active "Tessavane Graphic Equalizer"

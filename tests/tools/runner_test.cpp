@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 #include <vector>
 
+#include "support/limit.h"
 #include "support/temp_folder.h"
 #include "tools/dos_outputs.h"
 
@@ -75,25 +75,10 @@ TEST_F(Runner, NestsRunsThatShareNothing) {
   EXPECT_EQ(pieces.back(), "");
 }
 
-/// Sets a soft limit of this process while it lives.
-class Limit {
- public:
-  Limit(__rlimit_resource what, rlim_t soft) : what_(what) {
-    getrlimit(what, &before_);
-    const rlimit limit{soft, before_.rlim_max};
-    setrlimit(what, &limit);
-  }
-  ~Limit() { setrlimit(what_, &before_); }
-
- private:
-  __rlimit_resource what_;
-  rlimit before_{};
-};
-
 TEST_F(Runner, DoesWithoutWhatTheSystemRefuses) {
   const auto runner = start("head -c 150000000 /dev/zero");
   {
-    const Limit descriptors(RLIMIT_NOFILE, 3);
+    const support::Limit descriptors(RLIMIT_NOFILE, 3);
     EXPECT_EQ(runner->ExecuteCommand(), "") << "no descriptor for the pipe";
   }
 #ifndef __SANITIZE_ADDRESS__  // The sanitizer itself needs more than any such limit.
@@ -104,7 +89,7 @@ TEST_F(Runner, DoesWithoutWhatTheSystemRefuses) {
     handedOn += piece.size();
     pieces.clear();
   };
-  const Limit memory(RLIMIT_AS, static_cast<rlim_t>(pages * sysconf(_SC_PAGESIZE) + 70000000));
+  const support::Limit memory(RLIMIT_AS, static_cast<rlim_t>(pages * sysconf(_SC_PAGESIZE) + 70000000));
   const std::size_t kept = runner->ExecuteCommand().size();
   EXPECT_EQ(handedOn, 150000000U) << "no memory for the output";
   EXPECT_TRUE(kept > 1000000 && kept < 70000000) << kept;

@@ -1,0 +1,161 @@
+// What any preset file, preset line, command line and tool output may do to the program. The name of the
+// process says which of the four the inputs are.
+#include <sstream>
+#include <stdexcept>
+
+#include "core/app_state.h"
+#include "core/main.h"
+#include "forms/application.h"
+#include "mainwindow/form1.h"
+#include "platform/command_line.h"
+#include "platform/files.h"
+#include "platform/profile_file.h"
+#include "presets/presets.h"
+#include "support/temp_folder.h"
+#include "tools/form2.h"
+#include "tools/tool_output.h"
+
+namespace {
+
+void require(bool holds, const std::string& rule) {
+  if (!holds) throw std::logic_error(rule);
+}
+
+std::string read(const char* section) {
+  return platform::profileString(section, "Frequency", "1", 1024, AppState.PresetFilePath);
+}
+
+void profile(const std::string& before) {
+  const std::string file = platform::programFolder() + "/AppPresets.ini", line = "Frequency=-1:2\r\n";
+  platform::writeFile(file, before);
+  const std::string other = read("Preset#2");
+  require(platform::writeProfileString("Preset#1", "Frequency", "-1:2", file), "any file takes a preset");
+  require(read("Preset#1") == "-1:2" && read("Preset#2") == other, "presets come back");
+  const std::string after = support::readFile(file);
+  const auto [b, a] = std::ranges::mismatch(before, after);
+  const auto [oldEnd, newEnd] =
+      std::mismatch(before.rbegin(), std::reverse_iterator(b), after.rbegin(), std::reverse_iterator(a));
+  const std::string removed(b, oldEnd.base()), added(a, newEnd.base()), rest(newEnd.base(), after.end());
+  bool one = (removed + added).find('\n') == std::string::npos;
+  require(!one || !removed.ends_with('\r') || !rest.starts_with('\n'), "a line keeps its end");
+  for (const std::string lead : {"", "\r\n", "[Preset#1]\r\n", "\r\n[Preset#1]\r\n"}) {
+    // What is equal in front may reach into the new line, whose begin is then found behind it.
+    const std::string twice = lead + line + lead + line;
+    one |= removed.empty() && 2 * added.size() == twice.size() && twice.find(added) != std::string::npos;
+  }
+  require(one, "one line changes, not \"" + removed + "\" to \"" + added + "\"");
+}
+
+/// Where the controls stand, in their ranges and shown as they are; takes them back to where they start.
+std::string takePositions() {
+  const int range = AppState.RangeIndex, cut = AppState.LowCutIndex, limit = range == 0 ? 12 : 6;
+  const int gain = Form1->Slider2.value(), width = Form1->Slider3.value();
+  require(std::abs(gain) <= 10 && AppState.AudioGain == gain / 5.0 && width >= 1 && width <= 254 &&
+              AppState.BandWidth == width && AppState.LowCutOn == (cut == 0) &&
+              Form1->Option2(range).value() > Form1->Option2(1 - range).value() &&
+              Form1->Option3(cut).value() > Form1->Option3(1 - cut).value(),
+          "controls");
+  char all[300];
+  std::snprintf(all, sizeof all,
+                "EQ Range: +/- %d db|Low Cut Filter: %s|Gain Settings %d%% Of Source|Current Bandwidth: %03d "
+                "Hz|Selected Frequency Value:  0db|Gain:%d%%|Current Bandwidth Settings: %03d Hz",
+                limit, cut == 0 ? "On" : "Off", gain * 20, width, gain * 20, width);
+  std::string shown;
+  for (const int i : {1, 2, 5, 6, 7}) shown += Form1->Label7(i).caption() + "|";
+  shown += Form1->Label4(3).caption() + "|" + Form1->Label8(3).caption();
+  require(shown == all, shown + " is to be " + all);
+  for (int i = 0; i < kBands; ++i) {
+    const int value = Form1->Slider1(i).value();
+    const std::string& gainText = AppState.BandGainText[static_cast<std::size_t>(i)];
+    require(Form1->Slider1(i).max() == limit && Form1->Slider1(i).min() == -limit, "range of a band");
+    require(std::abs(value) <= limit, "band in its range");
+    require(gainText == std::to_string(-value) || (value == 0 && gainText == "-0"), gainText);
+    Form1->Slider1(i).setValue(0);
+    shown += " " + std::to_string(value);
+  }
+  Form1->Option2(0).setValue(true);
+  Form1->Option3(1).setValue(true);
+  Form1->Slider2.setValue(5);
+  Form1->Slider3.setValue(1);
+  return shown;
+}
+
+void preset(const std::string& line) {
+  platform::writeFile(platform::programFolder() + "/AppPresets.ini", "[Preset#1]\nFrequency=" + line);
+  AppState.PresetNumber = 1;
+  LoadPreset(1);
+  SavePreset();
+  const std::string loaded = takePositions();
+  LoadPreset(1);
+  require(takePositions() == loaded, "what was saved comes back");
+}
+
+void command(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream input(text);
+  for (std::string line; std::getline(input, line);) lines.push_back(line);
+  std::string kept, all = text;
+  for (const std::string& argument : platform::splitArguments(text)) kept += argument;
+  for (std::string* one : {&kept, &all})
+    std::erase_if(*one, [](char c) { return c == ' ' || c == '\t' || c == '"'; });
+  require(kept == all, "nothing but blanks and quotes is lost");
+  for (const auto& arguments : {lines, platform::splitArguments(text)}) {
+    std::string line;
+    for (const std::string& argument : arguments) line += platform::quoteArgument(argument) + " ";
+    require(platform::splitArguments(line) == arguments, "quoted arguments come back");
+  }
+  platform::parseCommand(platform::programFolder() + text);
+  const std::string path = platform::programFolder() + "/." + text.c_str();
+  if (text.find('/') < text.size() || !platform::writeFile(path, "")) return;
+  const auto arguments = platform::splitArguments("-i " + platform::shortPath(path) + " -af");
+  require(arguments == std::vector<std::string>{"-i", path, "-af"}, "a path is one argument");
+  std::filesystem::remove(path);
+}
+
+bool isNumber(const std::string& text, std::size_t length, double most) {
+  const bool digits = text.find_first_not_of("0123456789.") == std::string::npos;
+  return digits && text.size() >= length && std::stod(text) <= most;
+}
+
+void output(const std::string& text) {
+  const std::string first = durationSeconds(text).value_or(""),
+                    ofRun = durationSecondsOfRun(text).value_or("");
+  require(ofRun.empty() ? first.empty() : isNumber(ofRun, 1, 86399), "length of the run: " + ofRun);
+  require(first.empty() || first == ofRun, "the first length is that of the run");
+  AppState.SourceSeconds.clear();
+  AppState.WindowMinimised = text.size() % 2 == 1;
+  Form2->PBar.setValue(0);
+  Form2->PBar.setMax(100);
+  Form2->Label1(2).setCaption("Progress: 00.00% Completed");
+  Form1->setCaption("No Caption Set");
+  for (std::size_t begin = 0, count = 0; begin < text.size(); begin += count) {
+    count = std::hash<std::string>()(text.substr(begin)) % 256 + 1;
+    std::string piece = text.substr(begin, count);
+    Form2->objDOS_ReceiveOutputs(piece);
+    Form1->objDOS_ReceiveOutputs(piece);
+    Form2->Form_Load();
+    Form2->Timer1.setEnabled(false);
+    const std::string& seconds = AppState.SourceSeconds;
+    require(seconds.empty() || isNumber(seconds, 1, 86399), "SourceSeconds: " + seconds);
+    require(Form2->PBar.value() >= 0 && Form2->PBar.value() <= Form2->PBar.max(), "PBar");
+    const std::string shown = Form2->Label1(2).caption(), title = Form1->caption();
+    const std::string percent = shown.substr(10, shown.find('%') - 10);
+    require(shown == "Progress: " + percent + "% Completed" && isNumber(percent, 5, 100), shown);
+    require(percent[percent.size() - 3] == '.', shown);
+    require(title == "No Caption Set" || title == "Velm:  " + percent + "%", title);
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  static const support::OwnFolder folder;
+  static const forms::Application application;
+  [[maybe_unused]] static const bool started = (Main(), std::atexit(forms::Application::end) == 0);
+  const std::string_view name = program_invocation_short_name;
+  (name == "fuzz_profile"   ? profile
+   : name == "fuzz_preset"  ? preset
+   : name == "fuzz_command" ? command
+                            : output)({data, data + size});
+  return 0;
+}

@@ -1,0 +1,60 @@
+#!/bin/bash
+# The package made of the build folder given satisfies the validators. Unpacked, its launcher gives an ordinary
+# user a folder, in which the program keeps a preset and renders a file.
+. "$(dirname "$0")/../desktop/desktop.sh"
+
+root="$scratch/root"
+entry="$root/usr/share/applications/tessavane.desktop"
+home="$scratch/Zoë's häuslicher Ördner"
+user=(env -u QT_QPA_PLATFORM -u QT_SCALE_FACTOR -u WAYLAND_DISPLAY "$mark" DBUS_SESSION_BUS_ADDRESS=none:
+  HOME="$home" XDG_RUNTIME_DIR="$home")
+[ "$EUID" != 0 ] || user=(setpriv --reuid=nobody --regid=nogroup --clear-groups "${user[@]}")
+
+# says STATUS WORDS COMMAND...
+says() {
+  expect "what ${*:3} says" "$2status $1" "$(LC_ALL=C.UTF-8 "${@:3}" 2>&1; echo "status $?")"
+}
+
+refused() {
+  says 1 "tessavane: $1"$'\n' "${user[@]}" "${@:2}" "$root/usr/bin/tessavane"
+}
+
+cpack --config "$program/CPackConfig.cmake" -B "$scratch/package" &>"$scratch/log" || fail "$(cat "$scratch/log")"
+says 0 '' lintian --allow-root "$scratch"/package/*.deb
+dpkg-deb -x "$scratch"/package/*.deb "$root"
+says 0 '' desktop-file-validate "$entry"
+appstreamcli validate --no-net --strict "$root"/usr/share/metainfo/* >"$scratch/log" || fail "$(cat "$scratch/log")"
+
+start_desktop
+for name in ffprobe ffmpeg; do real_tool $name; done
+mkdir "$home" "$scratch/few"
+for name in readlink realpath mkdir ln ffmpeg ffprobe; do ln -s "$(command -v $name)" "$scratch/few"; done
+chmod 711 "$scratch"
+[ "$EUID" != 0 ] || chown nobody "$home"
+refused "cannot make the folder /proc/tessavane" XDG_DATA_HOME=/proc
+refused "ffplay is not in the PATH: please install FFmpeg" PATH="$scratch/few"
+
+# By now the link to ffmpeg leads elsewhere than the PATH. A relative XDG_DATA_HOME does not count.
+"${user[@]}" PATH="$folder:$PATH" XDG_DATA_HOME=data "$root/usr/bin/tessavane" 2>"$scratch/errors" &
+running=$!
+disown
+wait_for window_is_active "Tessavane Graphic Equalizer"
+main=$window
+folder="$home/.local/share/tessavane"
+printf -v links '%s\n' "$root/usr/lib/tessavane/tessavane" "$scratch"/app/ff{mpeg,probe} "$(command -v ffplay)"
+says 0 "$links" readlink "$folder"/{tessavane,ffmpeg,ffprobe,ffplay}
+says 0 "StartupWMClass=$(xprop -id "$main" WM_CLASS | cut -d'"' -f4)"$'\n' grep ^StartupWMClass "$entry"
+
+"${user[@]}" ffmpeg -v error -f lavfi -i anoisesrc=d=1:seed=1 "$home/été à 5.wav"
+open_source "$home/été à 5.wav"
+wait_for only_program_runs
+click "Preset 3"
+drag_band 18 0 -5 12
+click "Save Preset"
+wait_for grep -qs '^Frequency=.*:-5:' "$folder/AppPresets.ini"
+save_as "$home/späte Ausgabe.wav"
+wait_for only_program_runs
+close_saving
+says 0 $'1.000000\n' ffprobe -v error -show_entries format=duration -of csv=p=0 "$home/späte Ausgabe.wav"
+click Exit
+wait_for nothing_runs

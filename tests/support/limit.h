@@ -1,0 +1,23 @@
+// What the system lets this process have.
+#pragma once
+
+#include <sys/resource.h>
+
+namespace support {
+
+/// Sets a soft limit of this process while it lives.
+class Limit {
+ public:
+  Limit(__rlimit_resource what, rlim_t soft) : what_(what) {
+    getrlimit(what, &before_);
+    const rlimit limit{soft, before_.rlim_max};
+    setrlimit(what, &limit);
+  }
+  ~Limit() { setrlimit(what_, &before_); }
+
+ private:
+  __rlimit_resource what_;
+  rlimit before_{};
+};
+
+}  // namespace support

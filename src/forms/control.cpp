@@ -61,9 +61,10 @@ Control::Control(Form* form, const ControlData& data, QWidget* widget)
                                               : QString("%1(%2)").arg(data.name).arg(data.index));
   if (fontSize_ != Look{}.fontSize || data.look.bold) widget->setFont(fontOf(fontSize_, data.look.bold));
   widget->setParent(container_);
+  if (*data.spokenName != '\0') widget->setAccessibleName(data.spokenName);
   place();
   setVisible(!data.look.hidden);
-  setEnabled(!data.look.disabled);
+  if (data.look.outOfSight) widget->hide();
   applyColors();
 }
 

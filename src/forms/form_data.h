@@ -44,7 +44,7 @@ struct Look {
   bool border = false;     ///< picture boxes: a thin line around
   Scale scale = Scale::Pixels;
   bool hidden = false;
-  bool disabled = false;
+  bool outOfSight = false;  ///< visible by its own flag, but where neither the eye nor the keyboard gets to
   bool selected = false;
 };
 
@@ -59,6 +59,7 @@ struct ControlData {
   int tab;
   const char* text;
   Look look = {};
+  const char* spokenName = "";  ///< for screen readers, where the text alone does not tell it
 };
 
 /// One line on the surface of its container, in twips; `borderWidth` in pixels.
@@ -72,7 +73,7 @@ struct LineData {
 };
 
 /// What a slider has beside its row among the controls. Values rise from left to right, or from top to
-/// bottom. A screen reader hears `value * spokenFactor` under `spokenName`, with `unit` in the description.
+/// bottom. A screen reader hears `value * spokenFactor`, with `unit` in the description.
 struct SliderData {
   const char* name;
   bool vertical;
@@ -80,7 +81,6 @@ struct SliderData {
   int largeChange, smallChange;
   int tickFrequency;
   int value;
-  const char* spokenName;
   double spokenFactor;
   const char* unit;
 };

@@ -1,5 +1,6 @@
 #include "forms/form_surface.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QScreen>
 #include <QWindow>
@@ -16,10 +17,19 @@ namespace {
 /// What the desktop put around the last window that it showed: the best guess for the next one.
 QMargins lastFrame;
 
+/// To a screen reader a plain widget is no window, whatever it looks like.
+QAccessibleInterface* makeSpokenWindow(const QString& /*kind*/, QObject* object) {
+  auto* surface = dynamic_cast<FormSurface*>(object);
+  if (surface == nullptr) return nullptr;
+  const bool owned = surface->windowType() == Qt::Dialog;
+  return new QAccessibleWidget(surface, owned ? QAccessible::Dialog : QAccessible::Window);
+}
+
 }  // namespace
 
 FormSurface::FormSurface(Form& form, const FormData& formData)
     : Surface(nullptr, false, formData.scale), form_(form), oneSize_(formData.oneSize) {
+  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenWindow), true);
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
   if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
@@ -101,6 +111,8 @@ void FormSurface::settle() {
 }
 
 bool FormSurface::event(QEvent* event) {
+  // The focus shows at once, not only after the first Tab.
+  if (event->type() == QEvent::WindowActivate) setAttribute(Qt::WA_KeyboardFocusChange);
   const bool handled = Surface::event(event);
   switch (event->type()) {
     case QEvent::MouseMove:

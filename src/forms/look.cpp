@@ -6,11 +6,14 @@
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
 
+#include "forms/surface.h"
+
 namespace forms {
 namespace {
 
 constexpr QRgb kFace = 0xFFD8D8D8;
 constexpr QRgb kFocus = 0xFF3070C0;
+constexpr QRgb kFocusedThumb = 0xFF80B0F0;
 
 QPalette lightPalette() {
   QPalette palette{QColor(kFace)};
@@ -28,11 +31,17 @@ QPalette lightPalette() {
   return palette;
 }
 
-/// Sliders keep an empty groove: what is coloured beside them are the program's own bars.
+/// Sliders keep an empty groove: what is coloured beside them are the program's own bars. The one that has
+/// the focus, of many, shows it by its whole thumb.
 class Style : public QProxyStyle {
  public:
-  Style() : QProxyStyle(QStyleFactory::create("Fusion")), handle_(lightPalette()), groove_(handle_) {
+  Style()
+      : QProxyStyle(QStyleFactory::create("Fusion")),
+        handle_(lightPalette()),
+        groove_(handle_),
+        focus_(handle_) {
     groove_.setColor(QPalette::Highlight, QColor(0xB8B8B8));
+    focus_.setColor(QPalette::Button, QColor(kFocusedThumb));
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -49,8 +58,18 @@ class Style : public QProxyStyle {
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
     part.state = slider->state;
     part.subControls = SC_SliderHandle;
-    part.palette = handle_;
+    part.palette = slider->state & State_HasFocus ? focus_ : handle_;
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
+  }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    // A box without a frame has no other sign of the focus, once nothing in it is selected.
+    if (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth == 0 &&
+        frame->state & State_HasFocus)
+      drawOutline(*painter, frame->rect, QColor(kFocus));
   }
 
   SubControl hitTestComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -72,6 +91,7 @@ class Style : public QProxyStyle {
   // once.
   QPalette handle_;
   QPalette groove_;
+  QPalette focus_;
 };
 
 }  // namespace

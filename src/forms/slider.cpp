@@ -70,8 +70,14 @@ QAccessibleInterface* makeSpokenSlider(const QString& /*kind*/, QObject* object)
   return slider != nullptr ? new SpokenSlider(slider) : nullptr;
 }
 
+SliderWidget* makeSlider(Slider& owner, bool vertical) {
+  // Before the first name: a screen reader is told of it at once, and keeps what it then sees.
+  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenSlider), true);
+  return new SliderWidget(owner, vertical ? Qt::Vertical : Qt::Horizontal);
+}
+
 const SliderData& dataOf(const Form* form, const ControlData& data) {
-  static constexpr SliderData kPlain{"", false, 0, 10, 5, 1, 1, 0, "", 1, ""};
+  static constexpr SliderData kPlain{"", false, 0, 10, 5, 1, 1, 0, 1, ""};
   const SliderData* found = form != nullptr ? form->sliderData(data.name) : nullptr;
   return found != nullptr ? *found : kPlain;
 }
@@ -79,10 +85,8 @@ const SliderData& dataOf(const Form* form, const ControlData& data) {
 }  // namespace
 
 Slider::Slider(Form* form, const ControlData& data)
-    : Control(form, data,
-              new SliderWidget(*this, dataOf(form, data).vertical ? Qt::Vertical : Qt::Horizontal)),
+    : Control(form, data, makeSlider(*this, dataOf(form, data).vertical)),
       slider_(static_cast<QSlider*>(widget())) {
-  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenSlider), true);
   const SliderData& stored = dataOf(form, data);
   slider_->setInvertedAppearance(stored.vertical);
   slider_->setInvertedControls(stored.vertical);
@@ -91,7 +95,6 @@ Slider::Slider(Form* form, const ControlData& data)
   slider_->setTickPosition(QSlider::TicksAbove);
   setTickFrequency(stored.tickFrequency);
   spokenFactor_ = stored.spokenFactor;
-  setSpokenName(stored.spokenName);
   slider_->setAccessibleDescription(stored.unit);
   setRange(stored.min, stored.max);
   slider_->setValue(stored.value);

@@ -14,7 +14,8 @@ constexpr Look kClearReadOut{.back = kLightGrey, .fore = 0x404040, .transparent 
 constexpr Look kRightReadOut{
     .back = kLightGrey, .fore = 0x404040, .alignment = Alignment::Right, .transparent = true};
 
-// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look.
+// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look; spoken
+// name.
 // clang-format off
 constexpr ControlData kControls[] = {
     // The boxes first, so that what they hold finds them.
@@ -39,28 +40,28 @@ constexpr ControlData kControls[] = {
     {Kind::CommandButton, "Command1", 6, "Picture1(1)", 120, 840, 1935, 375, 34, "FFmpeg EQ String"},
     {Kind::CommandButton, "Command1", 7, "Picture1(1)", 2040, 840, 2055, 375, 35, "Save Preset"},
     {Kind::CommandButton, "Command1", 8, "Picture1(1)", 4080, 840, 1935, 375, 36, " EQ String > Clipboard"},
-    {Kind::Slider, "Slider3", kSingle, "Picture1(1)", 6360, 480, 3735, 495, 48, ""},
+    {Kind::Slider, "Slider3", kSingle, "Picture1(1)", 6360, 480, 3735, 495, 48, "", {}, "Bandwidth"},
     {Kind::Label, "Label8", 0, "Picture1(1)", 6480, 240, 1095, 255, 49, "1 Hz "},
     {Kind::Label, "Label8", 1, "Picture1(1)", 7680, 240, 1095, 255, 50, "Bandwidth", kCentred},
     {Kind::Label, "Label8", 2, "Picture1(1)", 8880, 240, 1095, 255, 51, "254 Hz", {.alignment = Alignment::Right}},
     {Kind::Label, "Label8", 3, "Picture1(1)", 6480, 960, 3495, 255, 52, "Current Bandwidth Settings: 001 Hz", kCentred},
-    {Kind::Slider, "Slider2", kSingle, "Picture1(1)", 10440, 480, 4095, 495, 8, ""},
+    {Kind::Slider, "Slider2", kSingle, "Picture1(1)", 10440, 480, 4095, 495, 8, "", {}, "Gain"},
     {Kind::Label, "Label4", 0, "Picture1(1)", 12000, 240, 855, 255, 18, "< Gain >", kCentred},
     {Kind::Label, "Label4", 1, "Picture1(1)", 10560, 240, 1215, 255, 19, "Decrease [ - ]"},
     {Kind::Label, "Label4", 2, "Picture1(1)", 13320, 240, 1095, 255, 20, "[ + ] Increase", {.alignment = Alignment::Right}},
     {Kind::Label, "Label4", 3, "Picture1(1)", 11610, 1080, 1755, 210, 21, "Gain:100%", {.alignment = Alignment::Centre, .transparent = true, .autoSize = true}},
     // Over the labels, which reach a pixel into it.
-    {Kind::TextBox, "Text1", kSingle, "Picture1(1)", 0, 0, 14895, 255, 22, "<%InputFile%>", {.fore = kWindowText}},
+    {Kind::TextBox, "Text1", kSingle, "Picture1(1)", 0, 0, 14895, 255, 22, "<%InputFile%>", {.fore = kWindowText}, "Source file"},
     // Option panel.
     {Kind::Label, "Label3", 0, "Picture1(2)", 0, 0, 1815, 255, 10, "Presets", kTitle},
     {Kind::Label, "Label5", kSingle, "Picture1(2)", 0, 240, 1815, 255, 31, "", {.back = kLightGrey}},
     {Kind::OptionButton, "Option1", 0, "Picture1(2)", 120, 240, 1335, 210, 11, "No Preset", {.back = kLightGrey, .selected = true}},
-    {Kind::OptionButton, "Option1", 1, "Picture1(2)", 120, 600, 495, 210, 12, "1"},
-    {Kind::OptionButton, "Option1", 2, "Picture1(2)", 600, 600, 495, 210, 13, "2"},
-    {Kind::OptionButton, "Option1", 3, "Picture1(2)", 1080, 600, 495, 210, 14, "3"},
-    {Kind::OptionButton, "Option1", 4, "Picture1(2)", 120, 840, 495, 210, 15, "4"},
-    {Kind::OptionButton, "Option1", 5, "Picture1(2)", 600, 840, 495, 210, 16, "5"},
-    {Kind::OptionButton, "Option1", 6, "Picture1(2)", 1080, 840, 495, 210, 17, "6"},
+    {Kind::OptionButton, "Option1", 1, "Picture1(2)", 120, 600, 495, 210, 12, "1", {}, "Preset 1"},
+    {Kind::OptionButton, "Option1", 2, "Picture1(2)", 600, 600, 495, 210, 13, "2", {}, "Preset 2"},
+    {Kind::OptionButton, "Option1", 3, "Picture1(2)", 1080, 600, 495, 210, 14, "3", {}, "Preset 3"},
+    {Kind::OptionButton, "Option1", 4, "Picture1(2)", 120, 840, 495, 210, 15, "4", {}, "Preset 4"},
+    {Kind::OptionButton, "Option1", 5, "Picture1(2)", 600, 840, 495, 210, 16, "5", {}, "Preset 5"},
+    {Kind::OptionButton, "Option1", 6, "Picture1(2)", 1080, 840, 495, 210, 17, "6", {}, "Preset 6"},
     {Kind::Label, "Label3", 1, "Picture1(2)", 0, 1080, 1815, 255, 23, "EQ Range", kTitle},
     {Kind::OptionButton, "Option2", 0, "Picture1(3)", 120, 0, 1215, 255, 24, "+/- 12 db", {.selected = true}},
     {Kind::OptionButton, "Option2", 1, "Picture1(3)", 120, 240, 1215, 255, 25, "+/- 6 db"},
@@ -98,9 +99,9 @@ constexpr LineData kLines[] = {
 
 // Name, vertical; min, max, large and small change, ticks every, value; how a screen reader says it.
 constexpr SliderData kSliders[] = {
-    {"Slider1", true, -12, 12, 5, 1, 2, 0, "", -1, "dB"},
-    {"Slider2", false, -10, 10, 5, 1, 1, 0, "Gain", 20, "%"},
-    {"Slider3", false, 1, 254, 5, 1, 15, 1, "Bandwidth", 1, ""},
+    {"Slider1", true, -12, 12, 5, 1, 2, 0, -1, "dB"},
+    {"Slider2", false, -10, 10, 5, 1, 1, 0, 20, "%"},
+    {"Slider3", false, 1, 254, 5, 1, 15, 1, 1, ""},
 };
 
 // Name, interval in milliseconds, enabled.

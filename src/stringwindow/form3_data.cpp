@@ -4,10 +4,11 @@ using namespace forms;
 
 namespace {
 
-// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look.
+// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look; spoken
+// name.
 // clang-format off
 constexpr ControlData kControls[] = {
-    {Kind::MultiLineTextBox, "Text1", kSingle, "", 120, 120, 8295, 2895, 0, "", {.back = kWindowBackground, .fore = kWindowText}},
+    {Kind::MultiLineTextBox, "Text1", kSingle, "", 120, 120, 8295, 2895, 0, "", {.back = kWindowBackground, .fore = kWindowText}, "Filter chain"},
     {Kind::CommandButton, "Command1", 0, "", 240, 3240, 1695, 495, 1, "Save As..."},
     {Kind::CommandButton, "Command1", 1, "", 6600, 3240, 1695, 495, 2, "Close"},
     {Kind::CommandButton, "Command1", 2, "", 2040, 3240, 1695, 495, 3, "List The Strings"},

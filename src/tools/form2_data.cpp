@@ -12,16 +12,18 @@ constexpr Look kGreen{.back = 0x00C000};
 constexpr Look kYellow{.back = 0x00FFFF};
 constexpr Look kClip{.back = 0x0000FF, .alignment = Alignment::Centre, .bold = true};
 
-// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look.
+// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look; spoken
+// name.
 // clang-format off
 constexpr ControlData kControls[] = {
     {Kind::PictureBox, "Picture2", kSingle, "", 240, 1920, 6135, 855, -1, "", {.back = kLightGrey, .border = true, .scale = Scale::Twips}},
-    {Kind::PictureBox, "Picture1", kSingle, "", 360, 3840, 14175, 2295, -1, "", {.border = true, .scale = Scale::Twips}},
+    // Below the window's edge.
+    {Kind::PictureBox, "Picture1", kSingle, "", 360, 3840, 14175, 2295, -1, "", {.border = true, .scale = Scale::Twips, .outOfSight = true}},
     {Kind::Label, "Label1", 0, "", 240, 240, 1215, 255, -1, "Saving As", kPlain},
     {Kind::Label, "Label1", 1, "", 240, 600, 6015, 255, -1, "<%OutPutFile%>", kPath},
     {Kind::Label, "Label1", 2, "", 240, 1200, 3495, 255, -1, "Progress: 00% Completed", kPlain},
     {Kind::CommandButton, "Command1", kSingle, "", 5160, 1080, 1215, 375, 0, "Close"},
-    {Kind::ProgressBar, "PBar", kSingle, "", 240, 1560, 6135, 255, -1, ""},
+    {Kind::ProgressBar, "PBar", kSingle, "", 240, 1560, 6135, 255, -1, "", {}, "Progress"},
     // A fixed panel of two rows; it shows no level.
     {Kind::Label, "Label2", 0, "Picture2", 120, 120, 3495, 255, -1, "", kGreen},
     {Kind::Label, "Label2", 1, "Picture2", 3600, 120, 975, 255, -1, "", kYellow},
@@ -33,8 +35,7 @@ constexpr ControlData kControls[] = {
     {Kind::Shape, "Shape2", kSingle, "Picture2", 120, 480, 4455, 255, -1, ""},
     {Kind::Shape, "Shape3", kSingle, "Picture2", 4560, 120, 1335, 255, -1, ""},
     {Kind::Shape, "Shape4", kSingle, "Picture2", 4560, 480, 1335, 255, -1, ""},
-    // Below the window's edge, where the keyboard must not get lost.
-    {Kind::MultiLineTextBox, "Text1", kSingle, "Picture1", 1440, 240, 12135, 1575, 1, "", {.back = kWindowBackground, .fore = kWindowText, .disabled = true}},
+    {Kind::MultiLineTextBox, "Text1", kSingle, "Picture1", 1440, 240, 12135, 1575, 1, "", {.back = kWindowBackground, .fore = kWindowText}},
 };
 
 constexpr LineData kLines[] = {{"Line1", kSingle, "", 240, 960, 6360, 960, 0xA0A0A0, 1}};

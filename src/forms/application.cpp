@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -30,10 +31,15 @@ struct Held {
 /// What came due inside a wait, at most one action for each object.
 std::vector<Held> held;
 
-class Wait {
+class Wait : public QObject {
  public:
-  Wait() { ++waits; }
-  ~Wait() {
+  Wait() {
+    ++waits;
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+  ~Wait() override {
+    for (auto& [window, key] : keys_)
+      if (window) QCoreApplication::postEvent(window, key.release());
     if (--waits > 0) return;
     // Input that was held back would lie there until the desktop sends something new.
     QAbstractEventDispatcher::instance()->wakeUp();
@@ -45,6 +51,18 @@ class Wait {
   }
   Wait(const Wait&) = delete;
   Wait& operator=(const Wait&) = delete;
+
+  /// Where a screen reader listens, the toolkit asks it about each key and posts the key after the answer, so
+  /// that it does not count as input any more.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (!isKey || !watched->isWindowType()) return false;
+    keys_.emplace_back(watched, event->clone());
+    return true;
+  }
+
+ private:
+  std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> keys_;
 };
 
 }  // namespace

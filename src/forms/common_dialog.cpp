@@ -54,6 +54,12 @@ class NameDialog : public QFileDialog {
     QDialog::accept();
   }
 
+  void done(int result) override {
+    // While the list of names that match is open, the focus does not go back to the program's window.
+    if (QWidget* names = QApplication::activePopupWidget()) names->close();
+    QFileDialog::done(result);
+  }
+
  private:
   QString chosen_;
 };

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "forms/application.h"
 #include "forms/form.h"
 #include "forms/look.h"
 
@@ -99,7 +100,9 @@ Slider::Slider(Form* form, const ControlData& data)
   setRange(stored.min, stored.max);
   slider_->setValue(stored.value);
   value_ = slider_->value();
-  QObject::connect(slider_, &QSlider::valueChanged, slider_, [this](int value) { moved(value); });
+  // A groove that is held down goes on paging in a paint-only wait; its events come after that.
+  QObject::connect(slider_, &QSlider::valueChanged, slider_,
+                   [this] { Application::whenServed(slider_, [this] { moved(slider_->value()); }); });
 }
 
 void Slider::moved(int value) {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QSlider>
 #include <cmath>
 
 #include "support/session.h"
@@ -97,9 +98,11 @@ TEST_F(Controls, APaintOnlyWaitPaintsAndKeepsTicksAndSizesForLater) {
   forms::Application::doEvents();
   EXPECT_GE(ticks, 1) << "what was due in the wait was lost";
   QTimer::singleShot(1, [&] { label->window()->showMinimized(); });
+  QTimer::singleShot(1, [] { static_cast<QSlider*>(Form1->Slider1(4).widget())->setValue(-5); });
   forms::Application::waitPainting(ends[0], 60);
   EXPECT_FALSE(AppState.WindowMinimised) << "Resize inside the wait";
   EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; })) << "Resize was lost";
+  EXPECT_EQ(AppState.BandGainText[4], "5") << "a step inside the wait was lost";
   close(ends[1]);
   forms::Application::waitPainting(ends[0], -1);
   close(ends[0]);

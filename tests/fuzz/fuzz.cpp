@@ -149,9 +149,11 @@ void output(const std::string& text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-  static const support::OwnFolder folder;
   static const forms::Application application;
-  [[maybe_unused]] static const bool started = (Main(), std::atexit(forms::Application::end) == 0);
+  // What is made later goes first, so that the folder is gone when the process ends.
+  [[maybe_unused]] static const bool ends = std::atexit(forms::Application::end) == 0;
+  static const support::OwnFolder folder;
+  [[maybe_unused]] static const bool started = (Main(), true);
   const std::string_view name = program_invocation_short_name;
   (name == "fuzz_profile"   ? profile
    : name == "fuzz_preset"  ? preset

@@ -1,10 +1,17 @@
 #!/bin/bash
-# The whole work by keys alone, as one does it who hears the program.
+# The whole work by keys alone, as one does it who hears the program: on X11, or on Wayland where the second
+# argument says so.
 . "$(dirname "$0")/desktop.sh"
 
 heard() { grep -sqxF "$1" "$scratch/heard"; }
 focus() { grep '^focused 1' "$scratch/heard" | tail -n 1 | cut -d'|' -f2; }
 focus_left() { [ "$(focus)" != "$1" ]; }
+has_focus() { [ "$(focus)" = "$1" ]; }
+answer() { # NAME: the file dialog.
+  wait_for has_focus "File name:"
+  xdotool type --delay 5 "$1"
+  keys Return
+}
 press() { # CONTROL KEY...: with the focus there, by as many Tabs as it takes.
   until name=$(focus) && [ "$name" = "$1" ]; do keys Tab && wait_for focus_left "$name"; done
   keys "${@:2}"
@@ -16,12 +23,20 @@ tool ffmpeg <<<"exec $(command -v ffmpeg) -re \"\$@\""
 ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$scratch/noise.wav"
 env "$mark" dbus-daemon --session --nofork --print-address=3 3>"$scratch/bus" >/dev/null 2>&1 & disown
 wait_for test -s "$scratch/bus"
-bus="DBUS_SESSION_BUS_ADDRESS=$(cat "$scratch/bus")"
-env "$mark" "$bus" /usr/bin/python3 -W ignore "$(dirname "$0")/spoken.py" >"$scratch/heard" 2>/dev/null & disown
+surroundings=("DBUS_SESSION_BUS_ADDRESS=$(cat "$scratch/bus")" QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1)
+env "$mark" "${surroundings[@]}" /usr/bin/python3 -W ignore "$(dirname "$0")/spoken.py" >"$scratch/heard" 2>/dev/null & disown
 wait_for heard listening
-start_program "$bus" QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+if [ "${2-}" = wayland ]; then
+  weston --backend=x11-backend.so --use-pixman --width=1280 --height=800 --idle-time=0 --socket=wayland-test \
+    >/dev/null 2>&1 &
+  started+=($!)
+  disown
+  wait_for test -S "$XDG_RUNTIME_DIR/wayland-test"
+  surroundings+=(WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland)
+fi
+run_program "${surroundings[@]}"
 press "Open Source" space
-choose "Open Source File" "$scratch/noise.wav"
+answer "$scratch/noise.wav"
 press 31.5hz Up Up
 wait_for heard "accessible-value 0 slider|31.5hz|dB|2"
 wait_for heard "accessible-name 0 label|Selected Frequency Value: 2db|"
@@ -29,7 +44,7 @@ press "FFmpeg EQ String" space
 wait_for heard "FFmpeg Equalizer String: text|Filter chain|"
 press Close Return
 press "Save As" space
-choose "Save As" "$folder/out.wav"
+answer "$folder/out.wav"
 wait_for heard "accessible-value 0 progress bar|Progress||2"
 press Close Return
 for control in "slider|"{20K"|dB|0",Gain"|%|100",Bandwidth"||1"} "text|Source file|" "radio button|Preset 6|"; do

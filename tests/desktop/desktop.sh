@@ -108,14 +108,19 @@ real_tool() {
   tool "$1" <<<"exec $(command -v "$1") \"\$@\""
 }
 
-# start_program [ENVIRONMENT...]: a link in $folder, by which the program finds its tools there.
-start_program() {
+# run_program [ENVIRONMENT...]: by a link in $folder, where it then finds its tools.
+run_program() {
   mkdir -p "$folder"
   ln -sf "$program" "$folder/tessavane"
   env -u QT_QPA_PLATFORM -u QT_SCALE_FACTOR -u WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS=none: "$mark" "$@" \
     "$folder/tessavane" 2>"$scratch/errors" &
   running=$!
   disown
+}
+
+# start_program [ENVIRONMENT...]: up to its window.
+start_program() {
+  run_program "$@"
   wait_for window_is_active "Tessavane Graphic Equalizer"
   main=$window
 }

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "forms/application.h"
 #include "forms/look.h"
 #include "forms/surface.h"
 
@@ -40,7 +41,7 @@ class PushButton : public QPushButton {
 CommandButton::CommandButton(Form* form, const ControlData& data) : Control(form, data, new PushButton) {
   setCaption(data.text != nullptr ? data.text : "");
   QObject::connect(static_cast<QPushButton*>(widget()), &QPushButton::clicked, widget(),
-                   [this] { raise(onClick); });
+                   [this] { raiseWhenServed(onClick); });
 }
 
 void CommandButton::setCaption(const std::string& caption) {
@@ -67,7 +68,12 @@ OptionButton::OptionButton(Form* form, const ControlData& data) : Control(form, 
     makeTabStops(group);
     QObject::connect(button, &QRadioButton::toggled, button, [&group] { makeTabStops(group); });
   }
-  QObject::connect(button, &QRadioButton::clicked, button, [this] { raise(onClick); });
+  // Of those chosen one after the other while the program is held back, the last one counts.
+  const auto clicked = [this] {
+    if (value()) raise(onClick);
+  };
+  QObject::connect(button, &QRadioButton::clicked, button,
+                   [button, clicked] { Application::whenServed(button, clicked); });
 }
 
 bool OptionButton::value() const {
@@ -98,7 +104,7 @@ CheckBox::CheckBox(Form* form, const ControlData& data) : Control(form, data, ne
   auto* box = static_cast<QCheckBox*>(widget());
   box->setText(literal(data.text != nullptr ? data.text : ""));
   box->setChecked(data.look.selected);
-  QObject::connect(box, &QCheckBox::clicked, box, [this] { raise(onClick); });
+  QObject::connect(box, &QCheckBox::clicked, box, [this] { raiseWhenServed(onClick); });
 }
 
 int CheckBox::value() const {

@@ -73,6 +73,10 @@ Control::~Control() {
   if (container_ == nullptr) delete widget_;
 }
 
+void Control::raiseWhenServed(const Event& event) {
+  Application::whenServed(widget_, [this, &event] { raise(event); });
+}
+
 double Control::unitsPerPixel() const {
   return container_ != nullptr ? container_->unitsPerPixel() : 1;
 }

@@ -60,7 +60,7 @@ class Control : public Item {
   void setForeColor(Color color);
   Color backColor() const { return back_; }
   void setBackColor(Color color);
-  /// Size of the text in points, at 96 points to 72 pixels.
+  /// Size of the text in points, at 72 points to 96 pixels.
   void setFontSize(double points);
   const std::string& toolTipText() const { return toolTip_; }
   void setToolTipText(const std::string& text);
@@ -81,6 +81,8 @@ class Control : public Item {
   /// nowhere.
   Control(Form* form, const ControlData& data, QWidget* widget);
 
+  /// The same, at the latest after the wait that holds the program back: for what a person has done already.
+  void raiseWhenServed(const Event& event);
   /// Called when size, text or font have changed.
   virtual void refit() {}
   void setExtent(double left, double width, double height);

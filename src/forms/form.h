@@ -48,6 +48,7 @@ class Form : public std::enable_shared_from_this<Form> {
 
   /// Members of the array, or the one control, of this name. Gaps are null.
   Items& items(const char* name) { return items_[name]; }
+  /// Makes member `index`, which the array does not have yet, hidden and otherwise like its first member.
   void loadMember(const char* name, int index);
   /// Row of the slider table, null where there is none.
   const SliderData* sliderData(const char* name) const;

@@ -19,7 +19,7 @@ inline std::string fromQt(const QString& text) {
 
 QColor toQt(Color color);
 
-/// The program's font in a size in points, at 96 points to 72 pixels.
+/// The program's font in a size in points, at 72 points to 96 pixels.
 QFont fontOf(double points, bool bold);
 
 /// Gives the application the program's own look, the same on every desktop.

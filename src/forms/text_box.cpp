@@ -97,7 +97,7 @@ void TextBox::sync() {
 void TextBox::edited() {
   if (syncing_) return;
   text_ = fromQt(static_cast<QPlainTextEdit*>(widget())->toPlainText().replace("\n", "\r\n"));
-  raise(onChange);
+  raiseWhenServed(onChange);
 }
 
 void TextBox::setSelStart(int position) {

@@ -22,8 +22,7 @@ void MainWindow::Slider1_Scroll(int Index) {
 }
 
 void MainWindow::Slider1_Change(int Index) {
-  ShowSelectedBand(Index);
-  ComposeEqString(Index);
+  Slider1_Scroll(Index);
 }
 
 void MainWindow::ShowSelectedBand(int Index) {

@@ -10,7 +10,9 @@ MainWindow::MainWindow()
     : Form(kForm1Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {
   onLoad = [this] { Form_Load(); };
   onResize = [this] { Form_Resize(); };
-  onQueryUnload = onUnload = onTerminate = &CleanUnload;
+  onQueryUnload = [this] { Form_QueryUnload(); };
+  onUnload = [this] { Form_Unload(); };
+  onTerminate = [this] { Form_Terminate(); };
   onMouseMove = [this] { Form_MouseMove(); };
 
   Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
@@ -35,15 +37,27 @@ MainWindow::MainWindow()
     label.onMouseMove = [this](int i) { Label4_MouseMove(i); };
     label.onMouseUp = [this](int i) { Label4_MouseUp(i); };
   });
-  Picture1.each([this](auto& box) { box.onMouseMove = [this](int) { ResetGainLabels(); }; });
-  Picture4.onMouseMove = [this](int) { ResetGainLabels(); };
-  Text1.onMouseMove = [this](int) { ResetGainLabels(); };
+  Picture1.each([this](auto& box) { box.onMouseMove = [this](int) { Picture1_MouseMove(); }; });
+  Picture4.onMouseMove = [this](int) { Picture4_MouseMove(); };
+  Text1.onMouseMove = [this](int) { Text1_MouseMove(); };
   Timer3.onTick = [this](int) { Timer3_Timer(); };
 }
 
 void MainWindow::Form_Load() {
   // Sliders of this toolkit show no value beside the thumb, so that there is nothing to switch off.
   Slider2_change();
+}
+
+void MainWindow::Form_QueryUnload() {
+  CleanUnload();
+}
+
+void MainWindow::Form_Unload() {
+  CleanUnload();
+}
+
+void MainWindow::Form_Terminate() {
+  CleanUnload();
 }
 
 void MainWindow::Form_Resize() {

@@ -37,9 +37,14 @@ class MainWindow : public forms::Form {
   /// The runner of the probe or of the preview.
   RunnerVariable objDOS;
 
+  /// Makes the members of the band arrays from the second on, and gives all 32 bands their places and
+  /// captions.
   void BuildMainWindow();
 
   void Form_Load();
+  void Form_QueryUnload();
+  void Form_Unload();
+  void Form_Terminate();
   void Form_Resize();
   void Form_MouseMove();
   void Command1_Click(int Index);
@@ -58,6 +63,9 @@ class MainWindow : public forms::Form {
   void Option3_MouseMove();
   void Label4_MouseMove(int Index);
   void Label4_MouseUp(int Index);
+  void Picture1_MouseMove();
+  void Picture4_MouseMove();
+  void Text1_MouseMove();
   void Timer3_Timer();
   void objDOS_ReceiveOutputs(std::string& CommandOutputs);
 
@@ -67,15 +75,21 @@ class MainWindow : public forms::Form {
   void HighlightBandLabel(int Index);
   /// Takes `Value`, -10 to 10, over as the gain and shows it in percent.
   void ShowGain(int Value);
+  /// Brings the bar under the gain slider to its value, and in its colour.
   void ShowGainBar();
   /// Takes `Value`, 1 to 254, over as the bandwidth and shows it.
   void ShowBandWidth(int Value);
+  /// Paints the captions around the gain slider black.
   void ResetGainLabels();
   /// Puts all bands to 0 in the range `Index`: 0 is +/- 12 dB, 1 is +/- 6 dB.
   void ApplyRange(int Index);
+  /// Shows the range `Index` in the status strip.
   void ShowRange(int Index);
+  /// Takes `Index` over as the choice of the low cut, 0 is on and 1 is off, and shows it in the status strip.
   void ShowLowCut(int Index);
+  /// Shows the bars of all bands where they are switched on, and hides them where not.
   void ShowIndicatorBars();
+  /// Shows in the status strip whether the bars are switched on.
   void ShowIndicatorState();
   /// Ends the state in which the clipboard button says that it has copied.
   void EndClipboardNotice();

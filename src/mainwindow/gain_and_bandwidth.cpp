@@ -25,8 +25,7 @@ void MainWindow::Slider2_Scroll() {
 }
 
 void MainWindow::Slider2_change() {
-  ShowGainBar();
-  ShowGain(Slider2.value());
+  Slider2_Scroll();
 }
 
 void MainWindow::Slider2_MouseMove() {
@@ -64,6 +63,18 @@ void MainWindow::ShowBandWidth(int Value) {
   Label8(3).setCaption("Current Bandwidth Settings: " + width + " Hz");
   Label7(6).setCaption("Current Bandwidth: " + width + " Hz");
   EndClipboardNotice();
+}
+
+void MainWindow::Picture1_MouseMove() {
+  ResetGainLabels();
+}
+
+void MainWindow::Picture4_MouseMove() {
+  ResetGainLabels();
+}
+
+void MainWindow::Text1_MouseMove() {
+  ResetGainLabels();
 }
 
 void MainWindow::ResetGainLabels() {

@@ -39,4 +39,9 @@ bool writeFile(const std::string& path, std::string_view content) {
   return file.isOpen() && writeAll(file, content) && file.close();
 }
 
+void removeFile(const std::string& path) {
+  std::error_code error;
+  if (std::filesystem::is_regular_file(path, error)) std::filesystem::remove(path, error);
+}
+
 }  // namespace platform

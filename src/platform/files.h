@@ -20,4 +20,8 @@ bool sameFile(const std::string& one, const std::string& other);
 /// named pipe.
 bool writeFile(const std::string& path, std::string_view content);
 
+/// Takes its name from a regular file; who has it open keeps it. Nothing happens where that fails, nor to
+/// whatever is no regular file.
+void removeFile(const std::string& path);
+
 }  // namespace platform

@@ -5,6 +5,7 @@
 #include "platform/files.h"
 #include "stringwindow/form3.h"
 #include "tools/dialogs.h"
+#include "tools/source.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ void EqStringWindow::SaveText() {
   forms::CommonDialog& dialog = Form1->CDialog;
   prepareDialog("Save As", "Text Files (*.txt)|*.txt|All File Types (*.*)|*.*", 1);
   dialog.showSave();
-  if (dialog.fileName().empty()) return;
+  if (dialog.fileName().empty() || isSource(dialog.fileName())) return;
   platform::writeFile(dialog.fileName(), Text1.text() + "\r\n");
 }
 

@@ -79,6 +79,9 @@ void RenderWindow::Timer1_Timer() {
 }
 
 void RenderWindow::DosCommand() {
+  // A render of before that still writes this file ends in one without a name, not in this one's.
+  const std::string target = platform::longPath(AppState.SavePathShort);
+  if (isWrittenByRender(target)) platform::removeFile(target);
   const auto runner = objDOS.get();
   runner->setCommandLine(renderCommand(platform::programFolder(), AppState));
   {

@@ -21,11 +21,9 @@ void SaveAsFile() {
   if (dialog.fileName().empty()) return;
 
   AppState.SavePath = dialog.fileName();
-  const bool isSource = platform::sameFile(AppState.SavePath, platform::longPath(AppState.SourcePathShort)) ||
-                        isReadByRender(AppState.SavePath);
-  if (isSource) {
-    // Under one and the same name the tool sees that it would overwrite what it reads, and refuses.
-    AppState.SavePathShort = AppState.SourcePathShort;
+  if (isSource(AppState.SavePath)) {
+    // Without a target the tool refuses, whatever else is chosen before it starts.
+    AppState.SavePathShort.clear();
   } else {
     if (!isWrittenByRender(AppState.SavePath)) platform::writeFile(AppState.SavePath, kMarker);
     AppState.SavePathShort = GetShortPath(AppState.SavePath);

@@ -7,6 +7,7 @@
 #include "platform/program_folder.h"
 #include "tools/command_lines.h"
 #include "tools/dialogs.h"
+#include "tools/form2.h"
 #include "tools/tool_output.h"
 
 void OpenSourceFile() {
@@ -29,6 +30,10 @@ void OpenSourceFile() {
 
 std::string GetShortPath(const std::string& LongPath) {
   return platform::shortPath(LongPath);
+}
+
+bool isSource(const std::string& path) {
+  return platform::sameFile(path, platform::longPath(AppState.SourcePathShort)) || isReadByRender(path);
 }
 
 void MainWindow::GetSourceDuration() {

@@ -55,13 +55,16 @@ std::optional<std::string> durationSeconds(std::string_view output) {
   return secondsText(part(output, hit + kDuration.size() + 1, kTimeLength));
 }
 
-std::optional<std::string> durationSecondsOfRun(std::string output) {
-  blankLineEnds(output);
+std::optional<std::string> durationSecondsOfRun(std::string_view output) {
+  constexpr auto kBlanks = 2;
   std::optional<std::string> found;
-  for (std::string_view rest = output;
-       (!found || found->empty()) && rest.find(kDuration) != std::string_view::npos;
-       rest.remove_prefix(rest.find(kDuration) + kDuration.size()))
-    found = durationSeconds(rest);
+  for (auto at = output.find(kDuration); at != std::string_view::npos && (!found || found->empty());
+       at = output.find(kDuration, at + kDuration.size())) {
+    // The output may be as large as the memory: only what matters of it is copied.
+    std::string piece(output.substr(at, kDuration.size() + kBlanks + kTimeLength));
+    blankLineEnds(piece);
+    found = durationSeconds(piece);
+  }
   return found;
 }
 

@@ -17,7 +17,7 @@ std::optional<std::string> durationSeconds(std::string_view output);
 
 /// The same from a whole run's output, in which a tag's text can hold the word before the tool's own line
 /// does: a "Duration:" that no time follows is passed over as long as another comes.
-std::optional<std::string> durationSecondsOfRun(std::string output);
+std::optional<std::string> durationSecondsOfRun(std::string_view output);
 
 /// The 8 characters behind the first "time" of `piece`, in any case, and the one character that follows it;
 /// or what there is of them.

@@ -14,8 +14,6 @@ open_the_source() {
   ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
   click "EQ String > Clipboard" # Without a source it does nothing.
   open_source "$source_file"
-  arguments -hide_banner -stats -i "$source_file"
-  expect_file "arguments of ffprobe" "$scratch/arguments" "$folder/ffprobe.args"
   wait_for only_program_runs
 }
 
@@ -96,34 +94,10 @@ load_the_preset() {
   wait_for looks_like before
 }
 
-take_the_string_away() {
-  printf %s "${chain//,/$'\r\n'}" >"$scratch/list"
-  { cat "$scratch/list" && printf '\r\n'; } >"$scratch/list lines"
-  click "FFmpeg EQ String"
-  wait_for window_is_active "FFmpeg Equalizer String"
-  string_button 192
-  wait_for window_is_active "Done."
-  wait_for window_is_active "FFmpeg Equalizer String"
-  string_button 72
-  choose "Save As" "$folder/the list.txt"
-  wait_for test -s "$folder/the list.txt"
-  expect_file "saved list" "$scratch/list lines" "$folder/the list.txt"
-  wait_for window_is_active "FFmpeg Equalizer String"
-  string_button 312
-  wait_for clipboard_holds "$scratch/list"
-  string_button 505
-  wait_for no_window "FFmpeg Equalizer String"
+copy_the_string() {
   printf %s "$chain" >"$scratch/chain"
   click "EQ String > Clipboard"
   wait_for clipboard_holds "$scratch/chain"
-}
-
-# string_button X: they stand in a row at the lower edge of the string window.
-string_button() {
-  local height
-  window_is_active "FFmpeg Equalizer String" || fail "the string window is not active"
-  height=$(xwininfo -id "$window" | awk '/Height:/ { print $2 }')
-  click_at "$window" "$1" $((height - 34))
 }
 
 clipboard_holds() {
@@ -150,7 +124,7 @@ check_the_picture
 keep_in_preset
 move_everything
 load_the_preset
-take_the_string_away
+copy_the_string
 render
 click Exit
 wait_for nothing_runs

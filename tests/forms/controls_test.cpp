@@ -6,6 +6,7 @@
 #include <QSlider>
 #include <cmath>
 
+#include "support/in_step.h"
 #include "support/session.h"
 
 namespace {
@@ -18,26 +19,21 @@ TEST_F(Controls, OptionsRaiseClickByHandAlwaysAndByAssignmentOnlyForADifference)
     Form1->Option2(i).onClick = [&clicks](int index) { clicks += std::to_string(index); };
   click(Form1->Option2(0));
   EXPECT_EQ(clicks, "0") << "a click on the selected one";
-  Form1->Option2(0).setValue(true);
-  EXPECT_EQ(clicks, "0");
-  Form1->Option2(0).setValue(false);
+  for (const bool value : {true, false}) Form1->Option2(0).setValue(value);
   EXPECT_EQ(clicks, "0");
   EXPECT_FALSE(Form1->Option2(0).value() || Form1->Option2(1).value()) << "the group is empty";
   Form1->Option2(1).setValue(true);
   EXPECT_EQ(clicks, "01");
   ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));
   Form1->Option2(1).setFocus();
-  key(Form1->Option2(1), Qt::Key_Up);
-  EXPECT_TRUE(Form1->Option2(0).value()) << "arrow keys walk the group";
-  EXPECT_EQ(clicks, "010");
-  EXPECT_TRUE(Form1->Option3(1).value() && Form1->Option1(0).value()) << "other containers are other groups";
+  QTest::keyClick(Form1->Option2(1).widget(), Qt::Key_Up);
+  EXPECT_EQ(clicks, "010") << "arrow keys walk the group";
   click(Form1->Option1(3));
-  EXPECT_FALSE(Form1->Option1(0).value());
-  EXPECT_TRUE(Form1->Option2(0).value() && Form1->Option3(1).value())
-      << "inner containers are other groups too";
+  for (const auto* other : {&Form1->Option2(0), &Form1->Option3(1)})
+    EXPECT_TRUE(other->value()) << "each container is a group";
 }
 
-TEST_F(Controls, TextIsTextWhateverItHolds) {
+TEST_F(Controls, ShowTextAsItIsAndNoProgressThatCannotBe) {
   const std::string nasty = "<b>&x.wav & <%y%>";
   Form1->Label7(0).setCaption(nasty);
   Form1->Command1(8).setCaption(nasty);
@@ -46,24 +42,8 @@ TEST_F(Controls, TextIsTextWhateverItHolds) {
   EXPECT_EQ(label->textFormat(), Qt::PlainText);
   const auto* button = static_cast<QAbstractButton*>(Form1->Command1(8).widget());
   EXPECT_TRUE(QKeySequence::mnemonic(button->text()).isEmpty());
-}
-
-TEST_F(Controls, WhatCannotBeDoneIsNotDone) {
-  forms::ProgressBar& bar = Form2->PBar;
-  bar.setValue(60);
-  for (const double wrong : {-1.0, 100.5, std::nan("")}) {
-    bar.setValue(wrong);
-    EXPECT_EQ(bar.value(), 60) << wrong;
-  }
-  for (const double wrong : {0.0, -5.0, 1e300}) bar.setMax(wrong);
-  EXPECT_EQ(bar.max(), 100);
-  Form1->Label7(0).setHeight(-1);
-  EXPECT_GT(Form1->Label7(0).height(), 0);
-  Form1->Label7.load(3);
-  Form1->Label7.load(-1);
-  EXPECT_EQ(Form1->Label7.count(), 8);
-  Form1->setWidth(-3);
-  EXPECT_EQ(Form1->width(), 17550);
+  for (const double value : {60.0, -1.0, 100.5, std::nan("")}) Form2->PBar.setValue(value);
+  EXPECT_EQ(Form2->PBar.value(), 60);
 }
 
 TEST_F(Controls, APaintOnlyWaitPaintsAndKeepsTicksAndSizesForLater) {
@@ -103,6 +83,16 @@ TEST_F(Controls, APaintOnlyWaitPaintsAndKeepsTicksAndSizesForLater) {
   EXPECT_FALSE(AppState.WindowMinimised) << "Resize inside the wait";
   EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; })) << "Resize was lost";
   EXPECT_EQ(AppState.BandGainText[4], "5") << "a step inside the wait was lost";
+  // A screen reader is no input that the desktop would hold back.
+  QTimer::singleShot(1, [] {
+    const forms::Control* const pressed[] = {&Form1->Option2(1), &Form1->Option2(0), &Form1->Option2(1),
+                                             &Form1->Option3(0), &Form1->Check1};
+    for (const auto* one : pressed) static_cast<QAbstractButton*>(one->widget())->click();
+  });
+  forms::Application::waitPainting(ends[0], 60);
+  forms::Application::doEvents();
+  EXPECT_EQ(AppState.RangeIndex, 1) << "what was pressed last inside the wait";
+  EXPECT_EQ(support::outOfStep(), "");
   close(ends[1]);
   forms::Application::waitPainting(ends[0], -1);
   close(ends[0]);

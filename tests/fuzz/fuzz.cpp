@@ -1,16 +1,16 @@
 // What any preset file, preset line, command line and tool output may do to the program. The name of the
 // process says which of the four the inputs are.
+#include <cstring>
 #include <sstream>
 #include <stdexcept>
 
-#include "core/app_state.h"
 #include "core/main.h"
 #include "forms/application.h"
-#include "mainwindow/form1.h"
 #include "platform/command_line.h"
 #include "platform/files.h"
 #include "platform/profile_file.h"
 #include "presets/presets.h"
+#include "support/in_step.h"
 #include "support/temp_folder.h"
 #include "tools/form2.h"
 #include "tools/tool_output.h"
@@ -26,7 +26,7 @@ std::string read(const char* section) {
 }
 
 void profile(const std::string& before) {
-  const std::string file = platform::programFolder() + "/AppPresets.ini", line = "Frequency=-1:2\r\n";
+  const std::string file = platform::programFolder() + "/AppPresets.ini";
   platform::writeFile(file, before);
   const std::string other = read("Preset#2");
   require(platform::writeProfileString("Preset#1", "Frequency", "-1:2", file), "any file takes a preset");
@@ -36,56 +36,31 @@ void profile(const std::string& before) {
   const auto [oldEnd, newEnd] =
       std::mismatch(before.rbegin(), std::reverse_iterator(b), after.rbegin(), std::reverse_iterator(a));
   const std::string removed(b, oldEnd.base()), added(a, newEnd.base()), rest(newEnd.base(), after.end());
-  bool one = (removed + added).find('\n') == std::string::npos;
-  require(!one || !removed.ends_with('\r') || !rest.starts_with('\n'), "a line keeps its end");
-  for (const std::string lead : {"", "\r\n", "[Preset#1]\r\n", "\r\n[Preset#1]\r\n"}) {
-    // What is equal in front may reach into the new line, whose begin is then found behind it.
-    const std::string twice = lead + line + lead + line;
-    one |= removed.empty() && 2 * added.size() == twice.size() && twice.find(added) != std::string::npos;
-  }
+  require(!removed.ends_with('\r') || !rest.starts_with('\n'), "a line keeps its end");
+  // What is equal in front may reach into the new lines, which end behind it.
+  const bool one = removed.empty() ? added.size() <= std::strlen("\r\n[Preset#1]\r\nFrequency=-1:2\r\n")
+                                   : (removed + added).find('\n') == std::string::npos;
   require(one, "one line changes, not \"" + removed + "\" to \"" + added + "\"");
 }
 
-/// Where the controls stand, in their ranges and shown as they are; takes them back to where they start.
-std::string takePositions() {
-  const int range = AppState.RangeIndex, cut = AppState.LowCutIndex, limit = range == 0 ? 12 : 6;
-  const int gain = Form1->Slider2.value(), width = Form1->Slider3.value();
-  require(std::abs(gain) <= 10 && AppState.AudioGain == gain / 5.0 && width >= 1 && width <= 254 &&
-              AppState.BandWidth == width && AppState.LowCutOn == (cut == 0) &&
-              Form1->Option2(range).value() > Form1->Option2(1 - range).value() &&
-              Form1->Option3(cut).value() > Form1->Option3(1 - cut).value(),
-          "controls");
-  char all[300];
-  std::snprintf(all, sizeof all,
-                "EQ Range: +/- %d db|Low Cut Filter: %s|Gain Settings %d%% Of Source|Current Bandwidth: %03d "
-                "Hz|Selected Frequency Value:  0db|Gain:%d%%|Current Bandwidth Settings: %03d Hz",
-                limit, cut == 0 ? "On" : "Off", gain * 20, width, gain * 20, width);
-  std::string shown;
-  for (const int i : {1, 2, 5, 6, 7}) shown += Form1->Label7(i).caption() + "|";
-  shown += Form1->Label4(3).caption() + "|" + Form1->Label8(3).caption();
-  require(shown == all, shown + " is to be " + all);
-  for (int i = 0; i < kBands; ++i) {
-    const int value = Form1->Slider1(i).value();
-    const std::string& gainText = AppState.BandGainText[static_cast<std::size_t>(i)];
-    require(Form1->Slider1(i).max() == limit && Form1->Slider1(i).min() == -limit, "range of a band");
-    require(std::abs(value) <= limit, "band in its range");
-    require(gainText == std::to_string(-value) || (value == 0 && gainText == "-0"), gainText);
-    Form1->Slider1(i).setValue(0);
-    shown += " " + std::to_string(value);
-  }
-  Form1->Option2(0).setValue(true);
+/// Where the controls stand; takes them back to where they start.
+std::vector<int> takePositions() {
+  const std::string fault = support::outOfStep(), shown = Form1->Label7(7).caption();
+  require(fault.empty(), fault);
+  require(shown == "Selected Frequency Value:  0db", shown);
+  const std::vector<int> taken = support::positions();
+  for (const int range : {1, 0}) Form1->Option2(range).setValue(true);  // Any change puts all bands to 0.
   Form1->Option3(1).setValue(true);
   Form1->Slider2.setValue(5);
   Form1->Slider3.setValue(1);
-  return shown;
+  return taken;
 }
 
 void preset(const std::string& line) {
   platform::writeFile(platform::programFolder() + "/AppPresets.ini", "[Preset#1]\nFrequency=" + line);
-  AppState.PresetNumber = 1;
-  LoadPreset(1);
+  SelectPreset(1);
   SavePreset();
-  const std::string loaded = takePositions();
+  const std::vector<int> loaded = takePositions();
   LoadPreset(1);
   require(takePositions() == loaded, "what was saved comes back");
 }

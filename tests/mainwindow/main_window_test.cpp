@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 
+#include "support/in_step.h"
 #include "support/session.h"
 
 namespace {
@@ -11,6 +12,8 @@ constexpr forms::Color kGreen = 0x80FF80, kYellow = 0x80FFFF, kRed = 0xFF, kBlue
 
 class MainWindowTest : public support::Session {
  protected:
+  ~MainWindowTest() override { EXPECT_EQ(support::outOfStep(), ""); }
+
   /// Moves the mouse over a widget, with no button down.
   static void hover(QWidget* widget) {
     QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), widget->mapToGlobal(QPointF(3, 3)), {}, {}, {});
@@ -23,18 +26,14 @@ class MainWindowTest : public support::Session {
 
 TEST_F(MainWindowTest, ReachesTheFirstIdleState) {
   std::string shown = Form1->caption() + "|" + Form1->Text1.text() + "|" + Form1->Command1(8).caption();
-  for (const auto* label : {&Form1->Label2(0), &Form1->Label2(1), &Form1->Label4(3), &Form1->Label8(3)})
-    shown += "|" + label->caption();
   for (int i = 0; i < 8; ++i) shown += "|" + readOut(i);
   EXPECT_EQ(shown,
-            "Tessavane Graphic Equalizer|<%InputFile%>| EQ String > Clipboard|+12db|-12db|Gain:100%|"
-            "Current Bandwidth Settings: 001 Hz|Preset Settings: 0|EQ Range: +/- 12 db|Low Cut Filter: Off|"
-            "Indicators: On|Selected Frequency: 0hz|Gain Settings 100% Of Source|Current Bandwidth: 001 Hz|"
-            "Selected Frequency Value:  0db");
+            "Tessavane Graphic Equalizer|<%InputFile%>| EQ String > Clipboard|Preset Settings: 0|EQ Range: "
+            "+/- 12 db|Low Cut Filter: Off|Indicators: On|Selected Frequency: 0hz|Gain Settings 100% Of "
+            "Source|Current Bandwidth: 001 Hz|Selected Frequency Value:  0db");
   for (const int button : {0, 2, 3, 6, 7, 8, 10})
     EXPECT_EQ(Form1->Command1(button).enabled(), button == 0 || button == 6 || button == 10) << button;
   EXPECT_FALSE(Form1->Label6.visible() || Form1->Timer3.enabled() || Form2.isLoaded() || Form3.isLoaded());
-  EXPECT_EQ(Form1->Line10.x1() - Form1->Line10.x2(), 62.5);
   for (int i = 0; i < 32; ++i) {
     EXPECT_EQ(Form1->Label9(i).caption(), std::to_string(i + 1));
     EXPECT_NEAR(Form1->Label9(i).widget()->geometry().center().x(), 51 + 30 * i, 8) << i;
@@ -69,71 +68,33 @@ TEST_F(MainWindowTest, TabsWalkTheStoredOrderFromTheFirstButton) {
   EXPECT_EQ(order.toStdString(), expected.toStdString());
 }
 
-TEST_F(MainWindowTest, HoldsItsSizeAndKnowsWhenItIsMinimised) {
-  const QSize before = window->size();
-  window->setMinimumSize(0, 0);
-  window->resize(400, 300);
-  EXPECT_TRUE(support::waitFor([&] { return window->size() == before; })) << window->width();
-  EXPECT_EQ(Form1->width(), 17550);
-  window->showMinimized();
-  EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; }));
-  window->showNormal();
-  EXPECT_TRUE(support::waitFor([] { return !AppState.WindowMinimised; }));
-}
-
 TEST_F(MainWindowTest, ShowsABandWithItsBarAndColourAlsoWhileBarsAreHidden) {
-  const std::tuple<int, int, std::string, double, forms::Color> rows[] = {
-      {0, -5, "5db", 25, kGreen},  {0, -6, "6db", 30, kYellow},   {0, -10, "10db", 50, kYellow},
-      {0, -11, "11db", 55, kRed},  {0, 12, "-12db", -60, kGreen}, {1, -2, "2db", 20, kGreen},
-      {1, -3, "3db", 30, kYellow}, {1, -5, "5db", 50, kYellow},   {1, -6, "6db", 60, kRed}};
+  const std::tuple<int, int, std::string, forms::Color> rows[] = {
+      {0, -5, "5db", kGreen},  {0, -6, "6db", kYellow},  {0, -10, "10db", kYellow},
+      {0, -11, "11db", kRed},  {0, 12, "-12db", kGreen}, {1, -2, "2db", kGreen},
+      {1, -3, "3db", kYellow}, {1, -5, "5db", kYellow},  {1, -6, "6db", kRed}};
   click(Form1->Check1);
-  EXPECT_EQ(readOut(3), "Indicators: Off");
-  for (const auto& [range, value, text, length, color] : rows) {
+  for (const auto& [range, value, text, color] : rows) {
     click(Form1->Option2(range));
+    EXPECT_EQ(Form1->Slider1(19).value(), 0) << "not put to 0";
     Form1->Slider1(19).setValue(value);
-    const forms::Line& bar = Form1->Line4(19);
+    EXPECT_EQ(support::outOfStep(), "");
     EXPECT_EQ(readOut(4) + readOut(7), "Selected Frequency: 1.25KSelected Frequency Value: " + text);
-    EXPECT_EQ(bar.y2(), Form1->Line1.y1());
-    EXPECT_EQ(bar.y2() - bar.y1(), length) << text << " in range " << range;
-    EXPECT_EQ(bar.borderColor(), color) << text << " in range " << range;
+    EXPECT_EQ(Form1->Line4(19).y2(), Form1->Line1.y1());
+    EXPECT_EQ(Form1->Line4(19).borderColor(), color) << text << " in range " << range;
   }
-  for (int i = 0; i < 32; ++i) EXPECT_FALSE(Form1->Line4(i).visible()) << i;
   click(Form1->Check1);
-  EXPECT_EQ(readOut(3), "Indicators: On");
-  for (int i = 0; i < 32; ++i) EXPECT_TRUE(Form1->Line4(i).visible()) << i;
 }
 
-TEST_F(MainWindowTest, ShowsTheGainWhichComposesNothingAndTheBandwidth) {
+TEST_F(MainWindowTest, ShowsTheGainWhichComposesNothing) {
   const std::pair<int, forms::Color> gains[] = {{-10, kRed},  {0, kRed},    {1, kGreen}, {5, kGreen},
                                                 {6, kYellow}, {7, kYellow}, {8, kRed}};
   for (const auto& [value, color] : gains) {
-    const std::string percent = std::to_string(value * 20) + "%";
     Form1->Slider2.setValue(value);
-    EXPECT_EQ(readOut(5) + Form1->Label4(3).caption(),
-              "Gain Settings " + percent + " Of SourceGain:" + percent);
-    EXPECT_EQ(Form1->Line10.x1() - Form1->Line10.x2(), value * 12.5);
-    EXPECT_EQ(Form1->Line10.borderColor(), color) << percent;
+    EXPECT_EQ(support::outOfStep(), "");
+    EXPECT_EQ(Form1->Line10.borderColor(), color) << value;
   }
   EXPECT_EQ(AppState.EqString, "");
-  Form1->Slider3.setValue(25);
-  EXPECT_EQ(Form1->Label8(3).caption(), "Current Bandwidth Settings: 025 Hz");
-  EXPECT_EQ(readOut(6), "Current Bandwidth: 025 Hz");
-}
-
-TEST_F(MainWindowTest, AChangeOfRangeZeroesEveryBand) {
-  for (const int limit : {6, 12}) {
-    Form1->Slider1(9).setValue(-6);
-    click(Form1->Option2(limit == 6 ? 1 : 0));
-    for (int i = 0; i < 32; ++i) {
-      const forms::Slider& band = Form1->Slider1(i);
-      EXPECT_TRUE(band.value() == 0 && band.min() == -limit && band.max() == limit) << i;
-      EXPECT_EQ(band.tickFrequency(), limit / 6) << i;
-    }
-    const std::string text = std::to_string(limit);
-    EXPECT_EQ(Form1->Label2(0).caption() + Form1->Label2(1).caption() + readOut(1),
-              "+" + text + "db-" + text + "dbEQ Range: +/- " + text + " db");
-    EXPECT_EQ(Form1->Line4(9).y1(), Form1->Line4(9).y2());
-  }
 }
 
 TEST_F(MainWindowTest, TheClipboardButtonTellsOfACopyUntilTheNextChange) {

@@ -73,12 +73,6 @@ TEST_F(ChildProcess, HasItsOwnSessionAndNoBlockedSignals) {
   EXPECT_EQ(output, pid + pid + "0000000000000000\n");
 }
 
-TEST_F(ChildProcess, StartedByALinkTakesTheFolderOfTheLinkForItsOwn) {
-  fs::create_symlink(fs::read_symlink("/proc/self/exe"), own_.file("tessavane_tests"));
-  const std::string output = outputOf(tool("././tessavane_tests --gtest_filter=Files.LieInTheProgramFolder"));
-  EXPECT_NE(output.find("<" + own_.path() + ">"), std::string::npos) << output;
-}
-
 TEST_F(ChildProcess, CallsTheHookWhileThereIsNothingToRead) {
   platform::setWaitHook([this](int, int milliseconds) {
     EXPECT_TRUE(milliseconds >= 0 || fs::exists(own_.file("go"))) << "not in time to widen the child";

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <cstdio>
-
 #include "support/temp_folder.h"
 
 namespace {
@@ -28,13 +26,6 @@ TEST(Files, AreNamedComparedAndWrittenWithoutAWait) {
   mkfifo(own.file("pipe").c_str(), 0600);
   for (const std::string& path : {own.file("no/folder"), own.file("pipe"), std::string("/dev/full")})
     EXPECT_FALSE(platform::writeFile(path, "x")) << path;
-}
-
-TEST(Files, LieInTheProgramFolder) {
-  const std::string& folder = platform::programFolder();
-  std::printf("<%s>\n", folder.c_str());
-  EXPECT_TRUE(platform::sameFile(folder + "/tessavane_tests", "/proc/self/exe")) << folder;
-  EXPECT_EQ(platform::nativePath(folder + "x\\b"), folder + "x\\b");
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 #include "platform/profile_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include <csignal>
 
+#include "support/limit.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -79,12 +79,9 @@ TEST_F(ProfileFile, KeepsLinksAndPermissionsAndWhereAWriteFailsTheOldText) {
   EXPECT_EQ(fs::status(target).permissions(), fs::perms(0604));
   EXPECT_TRUE(fs::is_symlink(own_.file("first")) && fs::is_symlink(own_.file("real/second")));
 
-  const rlimit full{4096, RLIM_INFINITY}, usual{RLIM_INFINITY, RLIM_INFINITY};
   signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &full);
-  const bool written = write(file, std::string(4500, '3'));
-  setrlimit(RLIMIT_FSIZE, &usual);
-  EXPECT_FALSE(written || write(own_.path(), "4"));
+  EXPECT_FALSE((support::Limit(RLIMIT_FSIZE, 4096), write(file, std::string(4500, '3'))));
+  EXPECT_FALSE(write(own_.path(), "4"));
   EXPECT_EQ(read(file, 9999), longer);
   EXPECT_EQ(std::distance(fs::directory_iterator(own_.file("real")), {}), 2) << "A temporary file was left.";
 }

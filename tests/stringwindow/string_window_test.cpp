@@ -66,23 +66,21 @@ TEST_F(StringWindow, ListsOneFilterALineWhileTheProgramIsServedAndSaysSoForAWhil
   EXPECT_FALSE(Form3.isLoaded()) << "closed while it lists";
 }
 
-TEST_F(StringWindow, SavesAndCopiesWhatTheBoxShows) {
-  const auto saved = [this](const std::string& path) {
-    answerDialog(path);
-    click(Form3->Command1(0));
-    return support::readFile(folder.file("chain"));
-  };
+TEST_F(StringWindow, SavesAndCopiesWhatTheBoxShowsWithItsEdits) {
   open();
   compose();
-  EXPECT_EQ(saved(folder.file("chain")), AppState.EqString + "\r\n");
-  click(Form3->Command1(2));
-  EXPECT_EQ(saved(""), AppState.EqString + "\r\n") << "cancelled";
+  QTest::keyClick(&box(), Qt::Key_Return);
   click(Form3->Command1(3));
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), listed());
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "\r\n" + AppState.EqString);
   EXPECT_EQ(Form3->Command1(3).caption(), "Data On Clipboard");
   QTest::keyClicks(&box(), "#");
   EXPECT_EQ(Form3->Command1(3).caption(), "Copy to Clipboard");
-  EXPECT_EQ(saved(folder.file("chain")), "#" + listed() + "\r\n") << "an edit of the list";
+  const std::string source = support::writeText(folder, "source.wav", "sound");
+  openSource(source);
+  for (const std::string& answer : {folder.file("chain"), std::string(), source})
+    clickAndAnswer(Form3->Command1(0), answer);
+  EXPECT_EQ(support::readFile(folder.file("chain")), "\r\n#" + AppState.EqString + "\r\n");
+  EXPECT_EQ(support::readFile(source), "sound");
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <sys/resource.h>
+#include <unistd.h>
+
+#include <fstream>
 
 namespace support {
 
@@ -19,5 +22,12 @@ class Limit {
   __rlimit_resource what_;
   rlimit before_{};
 };
+
+/// Bytes of memory of this process, all or resident alone.
+inline std::size_t memory(bool resident) {
+  std::size_t all = 0, inUse = 0;
+  std::ifstream("/proc/self/statm") >> all >> inUse;
+  return (resident ? inUse : all) * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
 
 }  // namespace support

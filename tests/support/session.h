@@ -41,7 +41,6 @@ class Session : public testing::Test {
   }
 
   static void click(forms::Control& control) { QTest::mouseClick(control.widget(), Qt::LeftButton); }
-  static void key(forms::Control& control, Qt::Key key) { QTest::keyClick(control.widget(), key); }
   static void openSource(const std::string& path) { clickAndAnswer(Form1->Command1(0), path); }
   static void saveAs(const std::string& path) { clickAndAnswer(Form1->Command1(3), path); }
   static void clickAndAnswer(forms::Control& button, const std::string& path) {

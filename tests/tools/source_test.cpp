@@ -1,5 +1,6 @@
 #include "tools/source.h"
 
+#include "support/limit.h"
 #include "support/session.h"
 
 namespace {
@@ -13,9 +14,7 @@ TEST_F(Source, OpensTheButtonsAndShowsThePath) {
   const std::string path = support::writeText(folder, "my \"song\".wav", "");
   openSource("");
   EXPECT_EQ(Form1->Text1.text(), "<%InputFile%>");
-  for (const int i : {2, 3, 7, 8})
-    EXPECT_FALSE(Form1->Command1(i).enabled()) << "a Cancel at the very first use";
-
+  EXPECT_FALSE(Form1->Command1(3).enabled()) << "a Cancel at the very first use";
   openSource(path);
   for (const int i : {2, 3, 6, 7, 8}) EXPECT_TRUE(Form1->Command1(i).enabled()) << i;
   EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
@@ -29,37 +28,36 @@ TEST_F(Source, OpensTheButtonsAndShowsThePath) {
   EXPECT_EQ(Form1->Text1.backColor(), forms::kButtonFace);
   openSource(folder.file("not there.wav"));
   EXPECT_EQ(AppState.SourcePathShort + Form1->Text1.text(), "");
-  EXPECT_TRUE(Form1->Command1(3).enabled());
 }
 
-TEST_F(Source, MeasuresEveryRealFormatInWholeSeconds) {
+TEST_F(Source, MeasuresARealSourceInWholeSecondsWhateverItsTags) {
   std::filesystem::create_symlink("/usr/bin/ffprobe", folder.file("ffprobe"));
-  const std::string sound = "-f lavfi -i sine=d=3.6 ";
-  const std::string tags =
-      " -metadata comment='" + std::string(2000, 'x') + "' -metadata title='Duration: none' ";
-  const std::string picture =
-      "-f lavfi -i color=red:s=600x600:d=1 -map 0 -map 1 -frames:v 1 -disposition:v attached_pic ";
-  const std::pair<const char*, std::string> sources[] = {{"a.mp3", sound + tags},
-                                                         {"a.flac", sound + picture + tags},
-                                                         {"a.ogg", sound + tags},
-                                                         {"a.wav", sound},
-                                                         {"a.m4a", sound + tags}};
-  for (const auto& [name, arguments] : sources) {
-    support::shell("ffmpeg -v error -y " + arguments + "'" + folder.file(name) + "'");
-    ASSERT_TRUE(std::filesystem::exists(folder.file(name))) << name;
-    AppState.SourceSeconds = "stale";
-    openSource(folder.file(name));
-    EXPECT_EQ(AppState.SourceSeconds, "3") << name;
-  }
+  const std::string path = folder.file("a.flac");
+  support::shell(
+      "ffmpeg -v error -f lavfi -i sine=d=3.6 -metadata title='Duration: none' -metadata comment=" +
+      std::string(2000, 'x') + " '" + path + "'");
+  openSource(path);
+  EXPECT_EQ(AppState.SourceSeconds, "3");
   openSource(support::writeText(folder, "no sound.wav", "nothing"));
   EXPECT_EQ(AppState.SourceSeconds, "3") << "a source without a duration leaves the number of the one before";
 }
+
+#ifndef TESSAVANE_SANITIZED  // The sanitizer itself needs more than any such limit.
+TEST_F(Source, IsOpenedThoughTheProbePrintsMoreThanThereIsMemoryFor) {
+  support::writeScript(folder, "ffprobe", "echo Duration: 00:00:07; head -c 100000000 /dev/zero");
+  const std::string path = support::writeText(folder, "a.wav", "");
+  // More than half of this is full when the output has doubled its room for the last time.
+  const support::Limit limit(RLIMIT_AS, support::memory(false) + 110000000);
+  openSource(path);
+  EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
+  EXPECT_EQ(AppState.SourceSeconds, "7");
+}
+#endif
 
 TEST_F(Source, ASecondSourceServedInsideTheFirstProbeWins) {
   support::writeScript(folder, "ffprobe",
                        "case \"$4\" in *first*) echo Input; until [ -e \"$0.go\" ]; do sleep 0.01; done\n"
                        "echo ' Duration: 00:00:01';; *) echo > \"$0.go\"; echo ' Duration: 00:00:02';; esac");
-  const std::string first = support::writeText(folder, "first.wav", "");
   const std::string second = support::writeText(folder, "second.wav", "");
   QTimer person(qApp);
   QObject::connect(&person, &QTimer::timeout, [&] {
@@ -68,7 +66,7 @@ TEST_F(Source, ASecondSourceServedInsideTheFirstProbeWins) {
     openSource(second);
   });
   person.start(0);
-  openSource(first);
+  openSource(support::writeText(folder, "first.wav", ""));
   EXPECT_EQ(Form1->Text1.text(), GetShortPath(second));
   EXPECT_EQ(AppState.SourceSeconds, "2");
 }

@@ -49,8 +49,15 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
     const int needed = widget->fontMetrics().horizontalAdvance(widget->text()) + edges;
     EXPECT_LE(needed, widget->width()) << qPrintable(widget->text());
   };
-  for (const auto* label : window->findChildren<QLabel*>()) fits(label, 0);
-  for (const auto* button : window->findChildren<QAbstractButton*>()) fits(button, 8);
+  Form2->show(&*Form1);
+  Form3->show(&*Form1);
+  click(Form3->Command1(3));
+  for (QWidget* each : QApplication::topLevelWidgets()) {
+    for (const auto* label : each->findChildren<QLabel*>()) fits(label, 0);
+    for (const auto* button : each->findChildren<QAbstractButton*>()) fits(button, 8);
+    if (const QString factor = qgetenv("QT_SCALE_FACTOR"); !factor.isEmpty())
+      each->grab().save(each->objectName() + "_at_" + factor + ".png");
+  }
 }
 
 /// The name of a box stands for that option button in it that takes the focus.

@@ -56,12 +56,12 @@ std::optional<std::string> durationSeconds(std::string_view output) {
 }
 
 std::optional<std::string> durationSecondsOfRun(std::string_view output) {
-  constexpr auto kBlanks = 2;
+  constexpr std::size_t kLineEnd = 2;  // Stands for the blank in front of the time.
   std::optional<std::string> found;
   for (auto at = output.find(kDuration); at != std::string_view::npos && (!found || found->empty());
        at = output.find(kDuration, at + kDuration.size())) {
     // The output may be as large as the memory: only what matters of it is copied.
-    std::string piece(output.substr(at, kDuration.size() + kBlanks + kTimeLength));
+    std::string piece(output.substr(at, kDuration.size() + kLineEnd + kTimeLength));
     blankLineEnds(piece);
     found = durationSeconds(piece);
   }

@@ -86,7 +86,8 @@ void CommonDialog::show(bool save) {
   if (filterIndex_ >= 1 && filterIndex_ <= filters.size()) dialog.selectNameFilter(filters[filterIndex_ - 1]);
   dialog.setDirectory(toQt(initDir_));
   dialog.widenFilter();
-  if (dialog.exec() == QDialog::Accepted) fileName_ = fromQt(dialog.chosen());
+  const std::string asked = fileName_;
+  fileName_ = dialog.exec() == QDialog::Accepted ? fromQt(dialog.chosen()) : asked;
   if (before) before->activateWindow();
 }
 

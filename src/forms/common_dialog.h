@@ -13,7 +13,7 @@ class CommonDialog : public Item {
  public:
   explicit CommonDialog(Form* form) : Item(form, kSingle) {}
 
-  /// Absolute path that was chosen; a Cancel leaves it as it was.
+  /// Absolute path that was chosen; a Cancel leaves what it was when the dialog was asked.
   const std::string& fileName() const { return fileName_; }
   void setFileName(const std::string& fileName) { fileName_ = fileName; }
   void setDialogTitle(const std::string& title) { title_ = title; }

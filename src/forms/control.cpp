@@ -74,7 +74,9 @@ Control::~Control() {
 }
 
 void Control::raiseWhenServed(const Event& event) {
-  Application::whenServed(widget_, [this, &event] { raise(event); });
+  Application::whenServed(widget_, [this, &event] {
+    if (enabled()) raise(event);
+  });
 }
 
 double Control::unitsPerPixel() const {

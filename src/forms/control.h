@@ -81,8 +81,8 @@ class Control : public Item {
   /// nowhere.
   Control(Form* form, const ControlData& data, QWidget* widget);
 
-  /// Raises `event` at once or, where the program is held back, as soon as it is served: for what a person
-  /// has done already.
+  /// Raises `event` at once or, where the program is held back, as soon as it is served, unless the control
+  /// is disabled by then: for what a person has done already.
   void raiseWhenServed(const Event& event);
   /// Called when size, text or font have changed.
   virtual void refit() {}

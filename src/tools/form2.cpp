@@ -11,6 +11,8 @@
 #include "platform/program_folder.h"
 #include "tools/command_lines.h"
 #include "tools/form2_data.h"
+#include "tools/render.h"
+#include "tools/source.h"
 #include "tools/tool_output.h"
 
 forms::Window<RenderWindow> Form2;
@@ -78,10 +80,18 @@ void RenderWindow::Timer1_Timer() {
   Timer1.setEnabled(false);
 }
 
-void RenderWindow::DosCommand() {
-  // A render of before that still writes this file ends in one without a name, not in this one's.
+void RenderWindow::ClearTarget() {
   const std::string target = platform::longPath(AppState.SavePathShort);
-  if (isWrittenByRender(target)) platform::removeFile(target);
+  // The source can have been chosen since the target was.
+  if (isSource(target)) return AppState.SavePathShort.clear();
+  if (!isWrittenByRender(target)) return;
+  // The render of before ends in a file without a name, not in this one's.
+  platform::removeFile(target);
+  platform::writeFile(target, kRenderMarker);
+}
+
+void RenderWindow::DosCommand() {
+  ClearTarget();
   const auto runner = objDOS.get();
   runner->setCommandLine(renderCommand(platform::programFolder(), AppState));
   {

@@ -24,6 +24,8 @@ class RenderWindow : public forms::Form {
   void objDOS_ReceiveOutputs(const std::string& CommandOutputs);
 
  private:
+  /// Keeps the render out of its source and out of the file that a render of before still writes.
+  void ClearTarget();
   void DosCommand();
 };
 

@@ -7,13 +7,6 @@
 #include "tools/form2.h"
 #include "tools/source.h"
 
-namespace {
-
-/// A short path can be had only of a file that exists.
-constexpr auto kMarker = "<%TEMPOutPutData%>\r\n";
-
-}  // namespace
-
 void SaveAsFile() {
   forms::CommonDialog& dialog = Form1->CDialog;
   prepareDialog("Save As", "WAV Files (*.wav)|*.wav|WMA Files (*.wma)|*.wma|All File Types (*.*)|*.*", 1);
@@ -25,7 +18,7 @@ void SaveAsFile() {
     // Without a target the tool refuses, whatever else is chosen before it starts.
     AppState.SavePathShort.clear();
   } else {
-    if (!isWrittenByRender(AppState.SavePath)) platform::writeFile(AppState.SavePath, kMarker);
+    if (!isWrittenByRender(AppState.SavePath)) platform::writeFile(AppState.SavePath, kRenderMarker);
     AppState.SavePathShort = GetShortPath(AppState.SavePath);
   }
   Form2.load();

@@ -131,6 +131,22 @@ TEST_F(Render, ASecondRenderToTheSameNameIsNotMixedWithTheFirst) {
   EXPECT_EQ(support::readFile(folder.file("out.wav")), "data of the run");
 }
 
+TEST_F(Render, ASecondRenderThatFailsLeavesTheMarkerOrTheSourceThatTheTargetHasBecome) {
+  for (const bool chosen : {false, true}) {
+    const std::string target = folder.file("out.wav");
+    EXPECT_TRUE(renderMeanwhile("out.wav", [&] {
+      std::filesystem::remove(folder.file("ffmpeg"));
+      Form2.unload();
+      saveAs(target);
+      if (chosen) openSource(target);
+      EXPECT_TRUE(finished());
+      EXPECT_EQ(support::readFile(target), chosen ? "data" : kMarker);
+    }));
+    Form2.unload();
+    support::shell("rm '" + folder.path() + "'/ffmpeg*");
+  }
+}
+
 TEST_F(Render, WhateverIsTakenAwayMeanwhileItEndsAndTheWindowWorksOn) {
   for (const char* fault :
        {"kill -KILL $(cat ffmpeg.pid)", "kill -STOP $(cat ffmpeg.pid); kill -CONT $(cat ffmpeg.pid)",

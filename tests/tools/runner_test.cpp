@@ -65,6 +65,7 @@ TEST_F(Runner, DoesWithoutWhatTheSystemRefuses) {
 
 TEST_F(Runner, LeavesNothingBehindAfterTenThousandRuns) {
   std::filesystem::create_symlink("/bin/echo", folder.file("echo"));
+  const support::Limit few(RLIMIT_NOFILE, 100);
   std::size_t before = 0;
   for (int i = 0; i < 10000; ++i) {
     if (i == 500) before = support::memory(true);

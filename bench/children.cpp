@@ -75,7 +75,7 @@ void setAllBands() {
   AppState.AudioGain = 1;
   AppState.BandWidth = 1;
   for (int i = 0; i < kBands; ++i)
-    setBandGainText(AppState.BandGainText[static_cast<std::size_t>(i)], i % 2 == 0 ? 3 : -3);
+    AppState.BandGainText[static_cast<std::size_t>(i)] = bandGainText(i % 2 == 0 ? 3 : -3);
   composeChain(AppState.EqString, AppState);
   AppState.SourcePathShort = "source.wav";
 }

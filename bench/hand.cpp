@@ -15,10 +15,10 @@
 
 #include "core/app_state.h"
 #include "core/eq_string.h"
-#include "core/main.h"
 #include "forms/application.h"
-#include "mainwindow/form1.h"
 #include "platform/program_folder.h"
+#include "windows/form1.h"
+#include "windows/startup.h"
 
 namespace {
 
@@ -59,12 +59,12 @@ int position(int band, int limit) {
 void composition(benchmark::State& state) {
   AppStateRecord record;
   record.BandWidth = 1;
-  for (int i = 0; i < kBands; ++i) setBandGainText(record.BandGainText[static_cast<std::size_t>(i)], 0);
+  for (int i = 0; i < kBands; ++i) record.BandGainText[static_cast<std::size_t>(i)] = bandGainText(0);
   composeChain(record.EqString, record);
   const std::size_t before = allocations;
   int band = 0;
   for (auto _ : state) {
-    setBandGainText(record.BandGainText[static_cast<std::size_t>(band)], position(band, 12));
+    record.BandGainText[static_cast<std::size_t>(band)] = bandGainText(position(band, 12));
     composeChain(record.EqString, record);
     benchmark::DoNotOptimize(record.EqString.data());
     band = (band + 1) % kBands;

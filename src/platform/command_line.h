@@ -16,6 +16,13 @@ std::vector<std::string> splitArguments(std::string_view commandLine);
 /// has no blank, tab or double quote, else in double quotes with inner quotes doubled.
 std::string quoteArgument(std::string_view argument);
 
+/// The absolute path of an existing file as one argument of a command line (see `quoteArgument`). Empty where
+/// the file does not exist.
+std::string quotedPath(const std::string& path);
+
+/// The path that `quotedPath` was given, made absolute. Empty for an empty text.
+std::string unquotedPath(std::string_view quoted);
+
 /// A command line taken apart for a process start.
 struct Command {
   /// Path of the tool's file, empty where there is no such file.

@@ -5,26 +5,10 @@
 
 #include <filesystem>
 #include <system_error>
-#include <utility>
-#include <vector>
 
-#include "platform/command_line.h"
 #include "platform/descriptor.h"
 
 namespace platform {
-
-std::string shortPath(const std::string& longPath) {
-  struct stat status {};
-  std::error_code error;
-  if (stat(longPath.c_str(), &status) != 0) return {};
-  const std::string path = std::filesystem::absolute(longPath, error).string();
-  return error ? std::string() : quoteArgument(path);
-}
-
-std::string longPath(std::string_view shortPath) {
-  std::vector<std::string> arguments = splitArguments(shortPath);
-  return arguments.empty() ? std::string() : std::move(arguments.front());
-}
 
 bool sameFile(const std::string& one, const std::string& other) {
   struct stat first {};

@@ -6,13 +6,6 @@
 
 namespace platform {
 
-/// The form of an existing file's absolute path that survives the splitting of a command line (see
-/// `quoteArgument`). Empty where the file does not exist.
-std::string shortPath(const std::string& longPath);
-
-/// The path that `shortPath` was made from. Empty for an empty text.
-std::string longPath(std::string_view shortPath);
-
 /// True where both paths lead to one existing file, by whatever names and links.
 bool sameFile(const std::string& one, const std::string& other);
 

@@ -1,6 +1,8 @@
 #include "platform/profile_file.h"
 
 #include <fcntl.h>
+#include <locale.h>
+#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,11 +31,11 @@ std::string_view trimmed(std::string_view text) {
 }
 
 bool sameName(std::string_view one, std::string_view other) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  // The user's own locale may have other pairs of letters: a Turkish one lowers I to a dotless letter.
+  static const locale_t kAscii = newlocale(LC_CTYPE_MASK, "C", nullptr);
   one = trimmed(one);
   other = trimmed(other);
-  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                    [lower](char a, char b) { return lower(a) == lower(b); });
+  return one.size() == other.size() && strncasecmp_l(one.data(), other.data(), one.size(), kAscii) == 0;
 }
 
 /// Where the first line of `text` begins: behind the mark that some editors put in front of UTF-8.

@@ -3,6 +3,8 @@
 #include <array>
 #include <charconv>
 
+#include "platform/command_line.h"
+
 namespace {
 
 /// The volume filter alone stands in quotes; the chain follows in the same argument.
@@ -16,6 +18,10 @@ std::string gainText(double gain) {
   std::array<char, 32> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), gain).ptr;
   return {buffer.data(), end};
+}
+
+std::string GetShortPath(const std::string& LongPath) {
+  return platform::quotedPath(LongPath);
 }
 
 std::string probeCommand(const std::string& folder, const AppStateRecord& state) {

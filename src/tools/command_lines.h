@@ -8,6 +8,9 @@
 /// A factor as plain decimal text with a point, whatever the locale: "1", "0.6", "-1.4".
 std::string gainText(double gain);
 
+/// The form of an existing file's path that command lines carry. Empty where the file does not exist.
+std::string GetShortPath(const std::string& LongPath);
+
 /// Measures the source; paths are short paths.
 std::string probeCommand(const std::string& folder, const AppStateRecord& state);
 

@@ -4,16 +4,16 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "core/main.h"
 #include "forms/application.h"
 #include "platform/command_line.h"
 #include "platform/files.h"
 #include "platform/profile_file.h"
-#include "presets/presets.h"
 #include "support/in_step.h"
 #include "support/temp_folder.h"
-#include "tools/form2.h"
 #include "tools/tool_output.h"
+#include "windows/form2.h"
+#include "windows/presets.h"
+#include "windows/startup.h"
 
 namespace {
 
@@ -82,7 +82,7 @@ void command(const std::string& text) {
   platform::parseCommand(platform::programFolder() + text);
   const std::string path = platform::programFolder() + "/." + text.c_str();
   if (text.find('/') < text.size() || !platform::writeFile(path, "")) return;
-  const auto arguments = platform::splitArguments("-i " + platform::shortPath(path) + " -af");
+  const auto arguments = platform::splitArguments("-i " + platform::quotedPath(path) + " -af");
   require(arguments == std::vector<std::string>{"-i", path, "-af"}, "a path is one argument");
   std::filesystem::remove(path);
 }

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "core/app_state.h"
-#include "mainwindow/form1.h"
+#include "windows/form1.h"
 
 namespace support {
 

@@ -11,12 +11,12 @@
 #include <functional>
 
 #include "core/app_state.h"
-#include "core/main.h"
 #include "forms/application.h"
-#include "mainwindow/form1.h"
-#include "stringwindow/form3.h"
 #include "support/temp_folder.h"
-#include "tools/form2.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
+#include "windows/form3.h"
+#include "windows/startup.h"
 
 namespace support {
 

@@ -1,0 +1,47 @@
+#include "core/preset_line.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/text.h"
+
+namespace {
+
+/// Gain slider positions are worth 20 percent each.
+constexpr double kPercentPerPosition = 20;
+/// Outside the range of every slider, and small enough for every type of number.
+constexpr double kFarOut = 1000;
+
+}  // namespace
+
+std::string presetLine(std::span<const int> positions, const AppStateRecord& state) {
+  std::string line;
+  for (const int position : positions) line += std::to_string(position) + ":";
+  line += "LowCut=" + std::to_string(state.LowCutIndex);
+  line += ":Range=" + std::to_string(state.RangeIndex);
+  line += ":BandWidth=" + padded(std::to_string(state.BandWidth), 3);
+  // Rounded: in binary a factor such as 1.4 is a hair below what it stands for.
+  line += ":AudioGain=" + std::to_string(std::lround(state.AudioGain * 100));
+  return line;
+}
+
+std::vector<std::string_view> presetElements(std::string_view line) {
+  std::vector<std::string_view> elements;
+  for (;;) {
+    const auto colon = line.find(':');
+    elements.push_back(line.substr(0, colon));
+    if (colon == std::string_view::npos) return elements;
+    line.remove_prefix(colon + 1);
+  }
+}
+
+std::string_view presetField(std::string_view line, std::string_view marker, std::size_t count) {
+  const auto place = findAnyCase(line, marker);
+  return place == std::string_view::npos ? std::string_view() : line.substr(place + marker.size(), count);
+}
+
+std::optional<long long> gainPosition(std::string_view percent) {
+  const auto number = decimalNumber(percent);
+  if (!number || !std::isfinite(*number)) return std::nullopt;
+  return std::llround(std::clamp(*number / kPercentPerPosition, -kFarOut, kFarOut));
+}

@@ -1,0 +1,55 @@
+#include "tools/render_target.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/command_line.h"
+#include "platform/files.h"
+#include "tools/command_lines.h"
+
+namespace {
+
+/// What a target holds until FFmpeg overwrites it.
+constexpr auto kMarker = "<%TEMPOutPutData%>\r\n";
+
+struct RenderedFiles {
+  std::string source, target;
+};
+
+std::vector<RenderedFiles> running;
+
+}  // namespace
+
+FileUse useOf(const std::string& path) {
+  const auto is = [&path](const std::string& other) { return platform::sameFile(path, other); };
+  const auto isRead = [&is](const RenderedFiles& files) { return is(files.source); };
+  const auto isWritten = [&is](const RenderedFiles& files) { return is(files.target); };
+  if (is(platform::unquotedPath(AppState.SourcePathShort)) || std::ranges::any_of(running, isRead))
+    return FileUse::Input;
+  return std::ranges::any_of(running, isWritten) ? FileUse::Output : FileUse::None;
+}
+
+std::string makeTarget(const std::string& path) {
+  const FileUse use = useOf(path);
+  if (use == FileUse::Input) return {};
+  if (use == FileUse::None) platform::writeFile(path, kMarker);
+  return GetShortPath(path);
+}
+
+void claimTarget(AppStateRecord& state) {
+  const std::string target = platform::unquotedPath(state.SavePathShort);
+  const FileUse use = useOf(target);
+  if (use == FileUse::Input) state.SavePathShort.clear();
+  if (use != FileUse::Output) return;
+  platform::removeFile(target);
+  platform::writeFile(target, kMarker);
+}
+
+RunningRender::RunningRender(const AppStateRecord& state) {
+  running.push_back(
+      {platform::unquotedPath(state.SourcePathShort), platform::unquotedPath(state.SavePathShort)});
+}
+
+RunningRender::~RunningRender() {
+  running.pop_back();
+}

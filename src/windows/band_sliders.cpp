@@ -1,0 +1,52 @@
+// The 32 band sliders, their read-outs and their bars.
+
+#include "core/app_state.h"
+#include "core/eq_string.h"
+#include "windows/colors.h"
+#include "windows/compose_eq_string.h"
+#include "windows/form1.h"
+
+namespace {
+
+/// `min`, below 0, is the position of the strongest boost. A cut is always green.
+forms::Color barColor(int value, int min) {
+  if (value > min / 2.0) return kPaleGreen;
+  if (value > min / 1.1) return kPaleYellow;
+  return kRed;
+}
+
+}  // namespace
+
+void MainWindow::Slider1_Scroll(int Index) {
+  ShowSelectedBand(Index);
+  ComposeEqString(Index);
+}
+
+void MainWindow::Slider1_Change(int Index) {
+  Slider1_Scroll(Index);
+}
+
+void MainWindow::ShowSelectedBand(int Index) {
+  const forms::Slider& slider = Slider1(Index);
+  Label7(4).setCaption("Selected Frequency: " + Label1(Index).caption());
+  Label7(7).setCaption("Selected Frequency Value: " + bandGainText(slider.value()) + "db");
+
+  // Full travel makes 60 pixels in both ranges.
+  const int pixelsPerStep = AppState.RangeIndex == 0 ? 5 : 10;
+  const double middle = slider.top() + slider.height() / 2;
+  forms::Line& bar = Line4(Index);
+  bar.setY1(middle + slider.value() * pixelsPerStep);
+  bar.setY2(middle);
+  bar.setBorderColor(barColor(slider.value(), slider.min()));
+}
+
+void MainWindow::Slider1_MouseMove(int Index) {
+  if (!Label6.visible()) Label6.setVisible(true);
+  Label6.setLeft(Slider1(Index).left() + Picture1(0).left() + Label6.width() / 2);
+  HighlightBandLabel(Index);
+  ResetGainLabels();
+}
+
+void MainWindow::HighlightBandLabel(int Index) {
+  for (int i = 0; i < Slider1.count(); ++i) Label1(i).setForeColor(i == Index ? kRed : kBlack);
+}

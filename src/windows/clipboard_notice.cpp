@@ -1,0 +1,19 @@
+#include "windows/clipboard_notice.h"
+
+#include "forms/clipboard.h"
+
+namespace {
+
+constexpr auto kCopied = "Data On Clipboard";
+
+}  // namespace
+
+void CopyToClipboard(forms::CommandButton& button, const std::string& text) {
+  forms::Clipboard::clear();
+  forms::Clipboard::setText(text);
+  button.setCaption(kCopied);
+}
+
+void EndCopyNotice(forms::CommandButton& button, const std::string& caption) {
+  if (button.caption() == kCopied) button.setCaption(caption);
+}

@@ -1,0 +1,63 @@
+#include "windows/form3.h"
+
+#include "core/eq_string.h"
+#include "core/text.h"
+#include "forms/application.h"
+#include "windows/form1.h"
+
+forms::Window<EqStringWindow> Form3;
+
+namespace {
+
+constexpr auto kTitle = "FFmpeg Equalizer String";
+/// Outer width in twips that the four buttons need.
+constexpr double kLeastWidth = 8820;
+
+}  // namespace
+
+EqStringWindow::EqStringWindow() : Form(kForm3Data) {
+  onLoad = [this] { Form_Load(); };
+  onResize = [this] { Form_Resize(); };
+  Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
+  Text1.onChange = [this](int) { Text1_Change(); };
+  Timer1.onTick = [this](int) { Timer1_Timer(); };
+}
+
+void EqStringWindow::Form_Load() {
+  Timer1.setEnabled(false);
+  setIcon(Form1->icon());
+}
+
+void EqStringWindow::Form_Resize() {
+  if (width() <= kLeastWidth) setWidth(kLeastWidth);
+  Text1.setWidth(scaleWidth() - 20);
+  Text1.setHeight(scaleHeight() - 70);
+  for (int i = 0; i < Command1.count(); ++i) Command1(i).setTop(Text1.height() + 20);
+  Command1(1).setLeft(scaleWidth() - 20 - Command1(1).width());
+}
+
+void EqStringWindow::ListIndividualStrings() {
+  if (Text1.text().empty()) return;
+  Text1.setFocus();
+  Text1.setSelStart(0);
+  Command1(0).setEnabled(false);
+  Text1.setEnabled(false);
+  const long passes = characterCount(Text1.text()) + 1;
+  for (long pass = 0; pass < passes; ++pass) {
+    forms::Application::doEvents();
+    if (!isLoaded()) return;
+    setCaption("Working...");
+    Text1.setText(onePerLine(Text1.text()));
+  }
+  Text1.setEnabled(true);
+  Command1(0).setEnabled(true);
+  setCaption("Done.");
+  // From the beginning, also where the last one is still being shown.
+  Timer1.setEnabled(false);
+  Timer1.setEnabled(true);
+}
+
+void EqStringWindow::Timer1_Timer() {
+  setCaption(kTitle);
+  Timer1.setEnabled(false);
+}

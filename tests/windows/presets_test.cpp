@@ -1,0 +1,107 @@
+#include "windows/presets.h"
+
+#include "platform/profile_file.h"
+#include "support/in_step.h"
+#include "support/session.h"
+
+namespace {
+
+class Presets : public support::Session {
+ protected:
+  ~Presets() override { EXPECT_EQ(support::outOfStep(), ""); }
+
+  /// The bands rise from position `band` on, and from -12 again after 12.
+  static void set(int range, int lowCut, int gain, int width, int band) {
+    Form1->Option2(range).setValue(true);
+    Form1->Option3(lowCut).setValue(true);
+    Form1->Slider2.setValue(gain);
+    Form1->Slider3.setValue(width);
+    for (int i = 0; i < 32; ++i) Form1->Slider1(i).setValue((band + 12 + i) % 25 - 12);
+  }
+  static void load(const std::string& line) {
+    platform::writeProfileString("Preset#4", "Frequency", line, AppState.PresetFilePath);
+    click(Form1->Option1(4));
+  }
+  std::string file() { return support::readFile(folder.file("AppPresets.ini")); }
+};
+
+TEST_F(Presets, TheExampleComesOutByteForByteAndEveryPositionComesBack) {
+  SavePreset();
+  EXPECT_EQ(file(), "") << "no preset is chosen";
+  click(Form1->Option1(3));
+  set(0, 0, 7, 25, -6);
+  for (int i = 25; i < 32; ++i) Form1->Slider1(i).setValue(0);
+  Form1->Command1_Click(7);
+  EXPECT_EQ(file(),
+            "[Preset#3]\r\nFrequency=-6:-5:-4:-3:-2:-1:0:1:2:3:4:5:6:7:8:9:10:11:12:-12:-11:-10:-9:-8:-7:"
+            "0:0:0:0:0:0:0:LowCut=0:Range=0:BandWidth=025:AudioGain=140\r\n");
+  for (int round = 0; round < 21; ++round) {
+    set(round % 2, round / 2 % 2, round - 10, round * 12 + 1, round);
+    const auto saved = support::positions();
+    SavePreset();
+    set(1 - round % 2, 1 - round / 2 % 2, -4, 200, 3);
+    LoadPreset(3);
+    ASSERT_EQ(support::positions(), saved);
+  }
+}
+
+TEST_F(Presets, RaiseTheEventsOfWhatChangesAndNoOthers) {
+  std::string events;
+  const auto record = [&events](forms::Event& event, const std::string& name) {
+    event = [&events, name, handler = event](int i) {
+      events += name + std::to_string(i) + " ";
+      handler(i);
+    };
+  };
+  Form1->Slider1(20).setValue(-9);
+  Form1->Slider1(30).setValue(5);
+  std::string line, changes = "R1 b20 b30 L0 W0 G0 ";
+  for (int i = 0; i < 32; ++i) {
+    line += std::to_string(i % 4) + ":";
+    if (i % 4 != 0) changes += "b" + std::to_string(i) + " ";
+    record(Form1->Slider1(i).onChange, "b");
+  }
+  for (int i = 0; i < 2; ++i) record(Form1->Option2(i).onClick, "R");
+  for (int i = 0; i < 2; ++i) record(Form1->Option3(i).onClick, "L");
+  record(Form1->Slider2.onChange, "G");
+  record(Form1->Slider3.onChange, "W");
+  load(line + "LowCut=0:Range=1:BandWidth=007:AudioGain=-40");
+  EXPECT_EQ(events, changes) << "the new range zeroes what has moved, inside its own click";
+  click(Form1->Option1(4));
+  EXPECT_EQ(events, changes) << "the same preset again";
+  EXPECT_EQ(Form1->Label7(7).caption(), "Selected Frequency Value:  0db");
+}
+
+TEST_F(Presets, LinesThatNoSaveWroteSetWhatTheyHold) {
+  const std::string digits(400, '9');
+  const std::pair<std::string, std::vector<int>> rows[] = {
+      {"1", {0, 1, -4, 200, 1, 4, 5}},
+      {"x:-2:2.5:+9:\377\376:\t5 :", {0, 1, -4, 200, 3, -2, 5, 9, 7, 5, 9}},
+      {"99:-99:" + digits + ":-" + digits, {0, 1, -4, 200, 12, -12, 12, -12, 7}},
+      {"RANGE=7:7:lowcut=0:bandwidth=9999:audiogain=4000", {0, 0, 10, 254, 3, 7, 5}},
+      {"BandWidth=000:AudioGain=-999", {0, 1, -10, 1, 3}},
+      {"BandWidth=x:AudioGain=inf:7:Range=", {0, 1, -4, 200, 3, 4, 7, 6}}};
+  for (const auto& [line, expected] : rows) {
+    set(0, 1, -4, 200, 3);
+    load(line);
+    auto found = support::positions();
+    found.resize(expected.size());
+    EXPECT_EQ(found, expected) << line;
+  }
+}
+
+TEST_F(Presets, NoPresetWalksAllBandsBackAndStopsOnTick33) {
+  set(0, 1, -4, 200, 3);
+  Form1->Timer3.onTick = nullptr;
+  click(Form1->Option1(0));
+  EXPECT_EQ(Form1->Slider1(0).value(), 1) << "what a preset that is not stored sets";
+  for (int tick = 1; tick <= 66; ++tick) {
+    EXPECT_TRUE(Form1->Timer3.enabled()) << "before tick " << tick;
+    for (int i = 0; i < 32 && tick == 13; ++i) EXPECT_EQ(Form1->Slider1(i).value(), 0) << i;
+    if (tick == 33) Form1->Slider1(0).setValue(2);
+    Form1->Timer3_Timer();
+  }
+  EXPECT_FALSE(Form1->Timer3.enabled()) << "33 more where the first band has moved";
+}
+
+}  // namespace

@@ -20,7 +20,6 @@ std::string presetLine(std::span<const int> positions, const AppStateRecord& sta
   line += "LowCut=" + std::to_string(state.LowCutIndex);
   line += ":Range=" + std::to_string(state.RangeIndex);
   line += ":BandWidth=" + padded(std::to_string(state.BandWidth), 3);
-  // Rounded: in binary a factor such as 1.4 is a hair below what it stands for.
   line += ":AudioGain=" + std::to_string(std::lround(state.AudioGain * 100));
   return line;
 }

@@ -70,7 +70,8 @@ class StartPlan {
     sigemptyset(&none);
     posix_spawnattr_init(&attributes_);
     posix_spawn_file_actions_init(&actions_);
-    // The null device comes last: where our own standard streams are closed, the pipe may sit on 0 to 2.
+    // The null device comes last: a process without standard streams of its own gets the pipe on 0 to 2,
+    // where opening the device first would close it.
     complete_ = posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK) == 0 &&
                 posix_spawnattr_setsigmask(&attributes_, &none) == 0 &&
                 posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO) == 0 &&
@@ -110,7 +111,8 @@ void widenThreads(Descriptor tasks) {
   if (folder == nullptr) return;
   tasks.release();
   if (sched_getaffinity(0, sizeof all, &all) == 0) {
-    // The second pass is for threads that came into being, narrow as their makers, during the first.
+    // A thread inherits the processors of the one that makes it: the second pass is for those that a thread
+    // not widened yet has made during the first.
     for (int pass = 0; pass < 2; ++pass) {
       rewinddir(folder);
       while (const dirent* entry = readdir(folder)) {
@@ -141,7 +143,7 @@ bool ChildProcess::start(const std::string& commandLine) {
   const pid_t child = StartPlan(input.number()).run(command);
   if (child < 0) return false;
   output_ = std::move(output);
-  // Opened now, while the number cannot belong to another process yet.
+  // Opened at once: later the kernel may have given the number to another process.
   const std::string tasks = "/proc/" + std::to_string(child) + "/task";
   tasks_ = Descriptor(open(tasks.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   widenAt_ = steady_clock::now() + kNarrowTime;

@@ -67,7 +67,7 @@ Place findKey(std::string_view text, std::string_view section, std::string_view 
     if (!place.hasSection || line.empty()) continue;
     place.sectionEnd = end;
     const std::size_t equals = line.find('=');
-    // A comment needs no case of its own: what stands in front of its '=' begins with ';' or '#'.
+    // A comment line needs no test: with its ';' or '#' in front it is no name that anybody asks for.
     if (!place.hasKey && equals != std::string_view::npos && sameName(line.substr(0, equals), key)) {
       place.hasKey = true;
       place.keyBegin = begin;
@@ -150,7 +150,7 @@ bool takePermissions(const Descriptor& file, const Contents& old) {
     umask(mask);
     return fchmod(file.number(), 0666 & ~mask) == 0;
   }
-  // A file of somebody else that we may write becomes ours; its text matters more than its owner.
+  // Only root can give a file away. For anybody else a file of another owner becomes their own.
   const bool keptOwner = fchown(file.number(), old.status.st_uid, old.status.st_gid) == 0;
   const mode_t mode = old.status.st_mode & 07777;
   return fchmod(file.number(), keptOwner ? mode : mode & 0777) == 0;
@@ -202,7 +202,7 @@ bool writeProfileString(std::string_view section, std::string_view key, std::opt
   for (const std::string_view part : {section, key, value.value_or("")})
     if (part.find_first_of("\r\n") != std::string_view::npos) return false;
   const fs::path target = linkTarget(nativePath(file));
-  // Opened for writing too: a file that its owner made read-only is to stay as it is.
+  // Opened for writing too, although a rename needs no such right: what is read-only stays as it is.
   const std::optional<Contents> old = readContents(target, O_RDWR);
   if (!old) return false;
   std::string text = old->text;

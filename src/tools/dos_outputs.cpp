@@ -29,8 +29,7 @@ void DOSOutputs::keep(const char* piece, std::size_t size) {
   try {
     mOutputs.append(piece, size);
   } catch (const std::bad_alloc&) {
-    // What is there already stays.
-    return;
+    return;  // What is kept already stays as it is.
   }
 }
 

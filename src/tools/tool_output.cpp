@@ -56,11 +56,11 @@ std::optional<std::string> durationSeconds(std::string_view output) {
 }
 
 std::optional<std::string> durationSecondsOfRun(std::string_view output) {
-  constexpr std::size_t kLineEnd = 2;  // Stands for the blank in front of the time.
+  constexpr std::size_t kLineEnd = 2;  // Can stand where the blank in front of the time does.
   std::optional<std::string> found;
   for (auto at = output.find(kDuration); at != std::string_view::npos && (!found || found->empty());
        at = output.find(kDuration, at + kDuration.size())) {
-    // The output may be as large as the memory: only what matters of it is copied.
+    // A tool may print more than there is memory for a second time: only what matters is copied.
     std::string piece(output.substr(at, kDuration.size() + kLineEnd + kTimeLength));
     blankLineEnds(piece);
     found = durationSeconds(piece);
@@ -76,7 +76,6 @@ std::string_view progressTime(std::string_view piece) {
 
 std::string percentText(float value, float max) {
   const double percent = static_cast<double>(value) / (static_cast<double>(max) / 100);
-  // An exact half goes up.
   const double hundredths = std::round(percent * 100);
   if (!std::isfinite(hundredths)) return "00.00";
   std::array<char, 64> buffer{};

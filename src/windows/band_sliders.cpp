@@ -31,7 +31,7 @@ void MainWindow::ShowSelectedBand(int Index) {
   Label7(4).setCaption("Selected Frequency: " + Label1(Index).caption());
   Label7(7).setCaption("Selected Frequency Value: " + bandGainText(slider.value()) + "db");
 
-  // Full travel makes 60 pixels in both ranges.
+  // A bar at either end of its slider is 60 pixels long, in both ranges.
   const int pixelsPerStep = AppState.RangeIndex == 0 ? 5 : 10;
   const double middle = slider.top() + slider.height() / 2;
   forms::Line& bar = Line4(Index);

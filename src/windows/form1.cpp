@@ -43,7 +43,7 @@ MainWindow::MainWindow()
 }
 
 void MainWindow::Form_Load() {
-  // Sliders of this toolkit show no value beside the thumb, so that there is nothing to switch off.
+  // Qt's sliders show no value beside the thumb: there is no tip to switch off.
   Slider2_change();
 }
 

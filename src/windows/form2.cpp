@@ -51,7 +51,7 @@ void RenderWindow::DosCommand() {
 
 void RenderWindow::objDOS_ReceiveOutputs(const std::string& CommandOutputs) {
   forms::Application::doEvents();
-  // Closed meanwhile: the rest of the run has nobody to tell.
+  // The events just served can have closed this window; the rest of the run then shows nowhere.
   if (!isLoaded()) return;
   const std::string_view time = progressTime(CommandOutputs);
   if (time.empty()) return;

@@ -52,7 +52,7 @@ void EqStringWindow::ListIndividualStrings() {
   Text1.setEnabled(true);
   Command1(0).setEnabled(true);
   setCaption("Done.");
-  // From the beginning, also where the last one is still being shown.
+  // Switched off first: a second listing within the time of the first starts the time anew.
   Timer1.setEnabled(false);
   Timer1.setEnabled(true);
 }

@@ -21,7 +21,7 @@ std::string sectionName(int preset) {
 }
 
 void assign(forms::Slider& slider, std::optional<long long> value) {
-  // The slider itself puts a number from outside its range on the nearest end.
+  // Any number that an int holds will do: the slider clamps it to its own range.
   if (value) slider.setValue(static_cast<int>(std::clamp(*value, -32768LL, 32767LL)));
 }
 
@@ -53,8 +53,8 @@ void SavePreset() {
   if (AppState.PresetNumber == 0) return;
   std::vector<int> positions;
   Form1->Slider1.each([&positions](const forms::Slider& slider) { positions.push_back(slider.value()); });
-  // The old line goes in the same step as the new one comes: a disk that fills up in between cannot lose
-  // both.
+  // One write that replaces the line, not a delete and a write: a disk that fills up between the two would
+  // lose the preset.
   platform::writeProfileString(sectionName(AppState.PresetNumber), kKey, presetLine(positions, AppState),
                                AppState.PresetFilePath);
 }

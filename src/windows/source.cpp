@@ -33,7 +33,7 @@ void MainWindow::GetSourceDuration() {
   runner->setCommandLine(probeCommand(platform::programFolder(), AppState));
   runner->ExecuteCommand("");
 
-  // The tool writes its lines bit by bit, so that the first piece seldom reaches the duration.
+  // ffprobe flushes each part of a line by itself, so that the first piece seldom reaches the duration.
   if (AppState.SourcePathShort != probed) return;
   if (const auto seconds = durationSecondsOfRun(runner->Outputs())) AppState.SourceSeconds = *seconds;
 }

@@ -25,7 +25,8 @@ bool writeFile(const std::string& path, std::string_view content) {
 
 void removeFile(const std::string& path) {
   std::error_code error;
-  if (std::filesystem::is_regular_file(path, error)) std::filesystem::remove(path, error);
+  const std::filesystem::path file = std::filesystem::canonical(path, error);
+  if (!error && std::filesystem::is_regular_file(file, error)) std::filesystem::remove(file, error);
 }
 
 }  // namespace platform

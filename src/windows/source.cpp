@@ -39,8 +39,11 @@ void MainWindow::GetSourceDuration() {
 }
 
 void MainWindow::objDOS_ReceiveOutputs(std::string& CommandOutputs) {
+  const std::string measured = AppState.SourcePathShort;
   forms::Application::doEvents();
   blankLineEnds(CommandOutputs);
-  if (const auto seconds = durationSeconds(CommandOutputs)) AppState.SourceSeconds = *seconds;
+  // The events just served can have chosen another source, of which this piece tells nothing.
+  const auto seconds = durationSeconds(CommandOutputs);
+  if (seconds && AppState.SourcePathShort == measured) AppState.SourceSeconds = *seconds;
   objDOS.clear();
 }

@@ -30,7 +30,7 @@ void EqStringWindow::SaveText() {
   forms::CommonDialog& dialog = Form1->CDialog;
   prepareDialog("Save As", "Text Files (*.txt)|*.txt|All File Types (*.*)|*.*", 1);
   dialog.showSave();
-  if (dialog.fileName().empty() || useOf(dialog.fileName()) == FileUse::Input) return;
+  if (dialog.fileName().empty() || useOf(dialog.fileName()) != FileUse::None) return;
   platform::writeFile(dialog.fileName(), Text1.text() + "\r\n");
 }
 

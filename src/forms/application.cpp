@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
+#include <QIcon>
 #include <QPointer>
 #include <QSettings>
 #include <QSocketNotifier>
@@ -14,7 +15,7 @@
 #include <vector>
 
 #include "forms/clipboard.h"
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {
@@ -45,7 +46,7 @@ class Wait : public QObject {
     QAbstractEventDispatcher::instance()->wakeUp();
     for (const Held& due : std::exchange(held, {})) {
       if (!due.object) continue;
-      const auto again = [due] { Application::whenServed(due.object, due.action); };
+      const auto again = [due] { Application::runOrDefer(due.object, due.action); };
       QMetaObject::invokeMethod(due.object, again, Qt::QueuedConnection);
     }
   }
@@ -77,7 +78,11 @@ Application::Application() {
   // The file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   application = new QApplication(count, arguments);
-  applyLook();
+  applyStyle();
+  QIcon icon;
+  for (const char* picture : {"16x16", "32x32", "48x48"})
+    icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(picture));
+  QApplication::setWindowIcon(icon);
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -114,12 +119,12 @@ void Application::waitPainting(int descriptor, int milliseconds) {
   while (!over) QCoreApplication::processEvents(kPaintOnly | QEventLoop::WaitForMoreEvents);
 }
 
-bool Application::holdsBack() {
+bool Application::isDeferring() {
   return waits > 0 || ended;
 }
 
-void Application::whenServed(QObject* object, const std::function<void()>& action) {
-  if (!holdsBack()) return action();
+void Application::runOrDefer(QObject* object, const std::function<void()>& action) {
+  if (!isDeferring()) return action();
   const bool known = std::ranges::any_of(held, [&](const Held& due) { return due.object == object; });
   if (!known) held.push_back({object, action});
 }

@@ -27,11 +27,11 @@ class Application {
   static void waitPainting(int descriptor, int milliseconds);
 
   /// True inside `waitPainting` and once `end` has begun: no handler of the program may run.
-  static bool holdsBack();
+  static bool isDeferring();
 
   /// Runs `action` at once or, where the program is held back, as an event of `object` that is served after
   /// that; an object has one such event at most.
-  static void whenServed(QObject* object, const std::function<void()>& action);
+  static void runOrDefer(QObject* object, const std::function<void()>& action);
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();

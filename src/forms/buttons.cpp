@@ -6,7 +6,7 @@
 #include <QRadioButton>
 
 #include "forms/application.h"
-#include "forms/look.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
@@ -73,7 +73,7 @@ OptionButton::OptionButton(Form* form, const ControlData& data) : Control(form, 
     if (value()) raise(onClick);
   };
   QObject::connect(button, &QRadioButton::clicked, button,
-                   [button, clicked] { Application::whenServed(button, clicked); });
+                   [button, clicked] { Application::runOrDefer(button, clicked); });
 }
 
 bool OptionButton::value() const {

@@ -11,7 +11,7 @@
 #include <QTreeView>
 
 #include "forms/form.h"
-#include "forms/look.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {

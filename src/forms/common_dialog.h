@@ -22,9 +22,6 @@ class CommonDialog : public Item {
   /// The pair that is chosen at first, counted from 1.
   void setFilterIndex(int index) { filterIndex_ = index; }
   void setInitDir(const std::string& folder) { initDir_ = folder; }
-  /// True: a Cancel is a failure of the call, and failures pass in silence here, so that both come to the
-  /// same.
-  void setCancelError(bool /*cancelError*/) {}
 
   /// Show the dialog and return when it is closed.
   void showOpen() { show(false); }

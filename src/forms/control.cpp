@@ -7,14 +7,14 @@
 
 #include "forms/application.h"
 #include "forms/form.h"
-#include "forms/look.h"
 #include "forms/mouse_filter.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
 
 void Item::raise(const Event& event) const {
-  if (!event || form_ == nullptr || !form_->isLoaded() || Application::holdsBack()) return;
+  if (!event || form_ == nullptr || !form_->isLoaded() || Application::isDeferring()) return;
   const auto alive = form_->shared_from_this();
   event(index_ == kSingle ? 0 : index_);
 }
@@ -74,7 +74,7 @@ Control::~Control() {
 }
 
 void Control::raiseWhenServed(const Event& event) {
-  Application::whenServed(widget_, [this, &event] {
+  Application::runOrDefer(widget_, [this, &event] {
     if (enabled()) raise(event);
   });
 }

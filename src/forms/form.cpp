@@ -1,15 +1,14 @@
 #include "forms/form.h"
 
 #include <QCoreApplication>
-#include <QIcon>
 #include <algorithm>
 #include <string_view>
 
 #include "forms/application.h"
 #include "forms/controls.h"
 #include "forms/form_surface.h"
-#include "forms/look.h"
 #include "forms/make_control.h"
+#include "forms/style.h"
 
 namespace forms {
 
@@ -19,7 +18,6 @@ Form::Form(const FormData& data)
       outerWidth_(window_->outerSize().width() * kTwipsPerPixel),
       outerHeight_(window_->outerSize().height() * kTwipsPerPixel) {
   setCaption(data.caption);
-  if (data.icon != nullptr) setIcon(Icon(data.icon));
   for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, row));
   for (const LineData& row : data.lines) put(row.name, row.index, std::make_unique<Line>(this, row));
   for (const TimerData& row : data.timers) put(row.name, kSingle, std::make_unique<Timer>(this, row));
@@ -96,11 +94,6 @@ void Form::setCaption(const std::string& caption) {
   window_->setWindowTitle(toQt(caption));
 }
 
-void Form::setIcon(const Icon& icon) {
-  icon_ = icon;
-  if (icon.picture() != nullptr) window_->setWindowIcon(*icon.picture());
-}
-
 double Form::width() const {
   return outerWidth_;
 }
@@ -140,7 +133,7 @@ void Form::takeOuterSize(double width, double height) {
 }
 
 void Form::raise(const std::function<void()>& event) {
-  if (!event || !loaded_ || Application::holdsBack()) return;
+  if (!event || !loaded_ || Application::isDeferring()) return;
   const auto alive = shared_from_this();
   event();
 }

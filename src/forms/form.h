@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "forms/control.h"
-#include "forms/icon.h"
 
 namespace forms {
 
@@ -16,7 +15,7 @@ class FormSurface;
 class Line;
 
 /// The base of all windows. The outer size, frame included, counts in twips; `ScaleWidth` and `ScaleHeight`
-/// are the inner size in the form's own scale. Windows of the program are reached through `Window`.
+/// are the inner size in the form's own scale. Windows of the program are reached through `DefaultInstance`.
 class Form : public std::enable_shared_from_this<Form> {
  public:
   using Items = std::vector<std::unique_ptr<Item>>;
@@ -35,8 +34,6 @@ class Form : public std::enable_shared_from_this<Form> {
   double scaleWidth() const;
   double scaleHeight() const;
   bool minimised() const;
-  const Icon& icon() const { return icon_; }
-  void setIcon(const Icon& icon);
 
   bool isLoaded() const { return loaded_; }
   /// Shows the window beside the others, in the middle of its owner or of the screen, or brings it forward.
@@ -76,7 +73,7 @@ class Form : public std::enable_shared_from_this<Form> {
  private:
   friend class FormSurface;
   template <class W>
-  friend class Window;
+  friend class DefaultInstance;
 
   void load(std::function<void()> forget);
   static void destroyLater(Form* form);
@@ -89,7 +86,6 @@ class Form : public std::enable_shared_from_this<Form> {
   std::string caption_;
   std::map<std::string, Items, std::less<>> items_;
   std::unique_ptr<FormSurface> window_;
-  Icon icon_;
   double outerWidth_, outerHeight_;
   bool loaded_ = false;
   bool unloading_ = false;

@@ -9,7 +9,7 @@
 
 #include "forms/application.h"
 #include "forms/form.h"
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {
@@ -123,7 +123,7 @@ bool FormSurface::event(QEvent* event) {
     case QEvent::Resize:
     case QEvent::WindowActivate:
     case QEvent::WindowStateChange:
-      Application::whenServed(this, [this] { settle(); });
+      Application::runOrDefer(this, [this] { settle(); });
       break;
     default:
       break;
@@ -133,7 +133,7 @@ bool FormSurface::event(QEvent* event) {
 
 void FormSurface::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!Application::holdsBack()) form_.unload();
+  if (!Application::isDeferring()) form_.unload();
 }
 
 }  // namespace forms

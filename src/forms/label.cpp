@@ -5,7 +5,7 @@
 #include <QPalette>
 #include <cmath>
 
-#include "forms/look.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {

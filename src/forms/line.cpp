@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include "forms/form.h"
-#include "forms/look.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {

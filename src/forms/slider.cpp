@@ -7,7 +7,7 @@
 
 #include "forms/application.h"
 #include "forms/form.h"
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {
@@ -102,7 +102,7 @@ Slider::Slider(Form* form, const ControlData& data)
   value_ = slider_->value();
   // A groove that is held down goes on paging in a paint-only wait; its events come after that.
   QObject::connect(slider_, &QSlider::valueChanged, slider_,
-                   [this] { Application::whenServed(slider_, [this] { moved(slider_->value()); }); });
+                   [this] { Application::runOrDefer(slider_, [this] { moved(slider_->value()); }); });
 }
 
 void Slider::moved(int value) {

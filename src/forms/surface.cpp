@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "forms/line.h"
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 

@@ -5,7 +5,7 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {

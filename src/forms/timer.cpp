@@ -14,7 +14,7 @@ Timer::Timer(Form* form, const TimerData& data)
       enabled_(data.enabled) {
   timer_->setTimerType(Qt::PreciseTimer);
   QObject::connect(timer_.get(), &QTimer::timeout,
-                   [this] { Application::whenServed(timer_.get(), [this] { tick(); }); });
+                   [this] { Application::runOrDefer(timer_.get(), [this] { tick(); }); });
   if (enabled_ && interval_ > 0) timer_->start(interval_);
 }
 

@@ -4,7 +4,7 @@
 #include "core/main.h"
 #include "mainwindow/form1_data.h"
 
-forms::Window<MainWindow> Form1;
+forms::DefaultInstance<MainWindow> Form1;
 
 MainWindow::MainWindow()
     : Form(kForm1Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {

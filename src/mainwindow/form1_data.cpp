@@ -120,7 +120,6 @@ const FormData kForm1Data{
     .width = 17310,
     .height = 5100,
     .back = 0x808080,
-    .icon = "tessavane",
     .scale = Scale::Pixels,
     .oneSize = true,
     .minimiseButton = true,

@@ -6,7 +6,7 @@
 #include "mainwindow/form1.h"
 #include "stringwindow/form3_data.h"
 
-forms::Window<EqStringWindow> Form3;
+forms::DefaultInstance<EqStringWindow> Form3;
 
 namespace {
 
@@ -42,7 +42,6 @@ EqStringWindow::EqStringWindow() : Form(kForm3Data) {
 
 void EqStringWindow::Form_Load() {
   Timer1.setEnabled(false);
-  setIcon(Form1->icon());
 }
 
 void EqStringWindow::Form_Resize() {

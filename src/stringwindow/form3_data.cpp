@@ -26,7 +26,6 @@ const FormData kForm3Data{
     .width = 8580,
     .height = 3810,
     .back = 0xC0C0C0,
-    .icon = nullptr,
     .scale = Scale::Pixels,
     .oneSize = false,
     .minimiseButton = true,

@@ -15,7 +15,7 @@
 #include "tools/source.h"
 #include "tools/tool_output.h"
 
-forms::Window<RenderWindow> Form2;
+forms::DefaultInstance<RenderWindow> Form2;
 
 namespace {
 
@@ -65,7 +65,6 @@ RenderWindow::RenderWindow()
 void RenderWindow::Form_Load() {
   setHeight(3420);
   setWidth(6900);
-  setIcon(Form1->icon());
   PBar.setMax(number(AppState.SourceSeconds));
   Timer1.setEnabled(true);
 }

@@ -71,7 +71,7 @@ static void act(const Dice& dice, const char* when) {
 /// Acts with coming events: outside of drags, of dialogs and of waits for a tool.
 static void actSoon(const Dice& dice) {
   const auto due = [dice] {
-    const bool busy = dragging || QApplication::activeModalWidget() || forms::Application::holdsBack();
+    const bool busy = dragging || QApplication::activeModalWidget() || forms::Application::isDeferring();
     busy ? actSoon(dice) : act(dice, " in the middle ");
   };
   QMetaObject::invokeMethod(qApp, due, Qt::QueuedConnection);
@@ -86,7 +86,7 @@ struct RandomUser : support::Session, QObject {
       QTest::keyClick(dialog->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
       if (dialog->isVisible()) dialog->reject();
     };
-    const auto served = [=] { forms::Application::whenServed(dialog, type); };
+    const auto served = [=] { forms::Application::runOrDefer(dialog, type); };
     return dialog != nullptr && !QMetaObject::invokeMethod(this, served, Qt::QueuedConnection);
   }
 };

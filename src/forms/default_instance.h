@@ -12,7 +12,7 @@ namespace forms {
 /// again after an unload. A window that was unloaded while one of its handlers runs lives until that handler
 /// returns.
 template <class W>
-class Window {
+class DefaultInstance {
  public:
   W* operator->() { return &*loaded(); }
   W& operator*() { return *loaded(); }

@@ -1,4 +1,4 @@
-#include "forms/look.h"
+#include "forms/style.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -119,7 +119,7 @@ QFont fontOf(double points, bool bold) {
   return font;
 }
 
-void applyLook() {
+void applyStyle() {
   QApplication::setStyle(new Style);
   QApplication::setPalette(lightPalette());
   QApplication::setFont(fontOf(8.25, false));

@@ -23,6 +23,6 @@ QColor toQt(Color color);
 QFont fontOf(double points, bool bold);
 
 /// Gives the application the program's own look, the same on every desktop.
-void applyLook();
+void applyStyle();
 
 }  // namespace forms

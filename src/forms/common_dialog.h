@@ -11,7 +11,7 @@ namespace forms {
 /// is asked before an existing file is named, and a typed name is taken as it stands. Texts in UTF-8.
 class CommonDialog : public Item {
  public:
-  explicit CommonDialog(Form* form) : Item(form, kSingle) {}
+  explicit CommonDialog(FormWindow& form) : Item(form, kSingle) {}
 
   /// Absolute path that was chosen; a Cancel leaves what it was when the dialog was asked.
   const std::string& fileName() const { return fileName_; }

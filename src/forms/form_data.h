@@ -57,7 +57,7 @@ struct ControlData {
   const char* container;
   int left, top, width, height;
   int tab;
-  const char* text;
+  const char* text = "";
   Look look = {};
   const char* spokenName = "";  ///< for screen readers, where the text alone does not tell it
 };

@@ -80,7 +80,8 @@ static void actSoon(const Dice& dice) {
 struct RandomUser : support::Session, QObject {
   bool eventFilter(QObject* object, QEvent* event) override {
     auto* dialog = event->type() == QEvent::Show ? qobject_cast<QFileDialog*>(object) : nullptr;
-    const auto type = [dialog, name = answer] {
+    const auto type = [dialog = QPointer(dialog), name = answer] {
+      if (!dialog) return;
       trail += "\n  answer " + name;
       dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
       QTest::keyClick(dialog->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);

@@ -71,7 +71,7 @@ static void act(const Dice& dice, const char* when) {
 /// Acts with coming events: outside of drags, of dialogs and of waits for a tool.
 static void actSoon(const Dice& dice) {
   const auto due = [dice] {
-    const bool busy = dragging || QApplication::activeModalWidget() || forms::Application::holdsBack();
+    const bool busy = dragging || QApplication::activeModalWidget() || forms::Application::isDeferring();
     busy ? actSoon(dice) : act(dice, " in the middle ");
   };
   QMetaObject::invokeMethod(qApp, due, Qt::QueuedConnection);
@@ -80,13 +80,14 @@ static void actSoon(const Dice& dice) {
 struct RandomUser : support::Session, QObject {
   bool eventFilter(QObject* object, QEvent* event) override {
     auto* dialog = event->type() == QEvent::Show ? qobject_cast<QFileDialog*>(object) : nullptr;
-    const auto type = [dialog, name = answer] {
+    const auto type = [dialog = QPointer(dialog), name = answer] {
+      if (!dialog) return;
       trail += "\n  answer " + name;
       dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
       QTest::keyClick(dialog->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
       if (dialog->isVisible()) dialog->reject();
     };
-    const auto served = [=] { forms::Application::whenServed(dialog, type); };
+    const auto served = [=] { forms::Application::runOrDefer(dialog, type); };
     return dialog != nullptr && !QMetaObject::invokeMethod(this, served, Qt::QueuedConnection);
   }
 };

@@ -37,7 +37,7 @@ class Render : public support::Session {
         printf " of the ${second:-first run}" >&3; echo > "$0.done")");
     QTimer person(qApp);
     QObject::connect(&person, &QTimer::timeout, [&] {
-      if (forms::Application::holdsBack() || !std::filesystem::exists(folder.file("ffmpeg.runs"))) return;
+      if (forms::Application::isDeferring() || !std::filesystem::exists(folder.file("ffmpeg.runs"))) return;
       person.stop();
       hand();
       support::writeText(folder, "ffmpeg.go", "");

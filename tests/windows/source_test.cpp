@@ -63,7 +63,7 @@ TEST_F(Source, ASecondSourceServedInsideTheFirstProbeWins) {
   const std::string second = support::writeText(folder, "second.wav", "");
   QTimer person(qApp);
   QObject::connect(&person, &QTimer::timeout, [&] {
-    if (forms::Application::holdsBack() || Form1->objDOS.get() == nullptr) return;
+    if (forms::Application::isDeferring() || Form1->objDOS.get() == nullptr) return;
     person.stop();
     openSource(second);
   });

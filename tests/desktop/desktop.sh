@@ -6,6 +6,7 @@ set -u
 program=$(realpath "$1")
 scratch=$(realpath "$(mktemp -d)")
 folder="$scratch/app"
+mkdir "$folder"
 started=()
 main=0
 sources=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../src")
@@ -55,23 +56,26 @@ expect_file() {
   cmp -s "$2" "$3" || fail "$1" "$(head -c 4000 "$2" | tr '\0' '\n')" "$(head -c 4000 "$3" 2>&1 | tr '\0' '\n')"
 }
 
+# in_background COMMAND...: until the script ends.
+in_background() {
+  "$@" >/dev/null 2>&1 &
+  started+=($!)
+  disown
+}
+
 start_desktop() {
   local needed
   for needed in Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
     command -v "$needed" >/dev/null || fail "$needed is not installed"
   done
-  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display" 2>/dev/null &
-  started+=($!)
-  disown
+  in_background Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display"
   wait_for test -s "$scratch/display"
   DISPLAY=:$(cat "$scratch/display")
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
   export DISPLAY HOME XDG_RUNTIME_DIR
   mkdir -m 700 "$HOME"
   window_manager_settings >"$scratch/openbox.xml"
-  openbox --sm-disable --config-file "$scratch/openbox.xml" >/dev/null 2>&1 &
-  started+=($!)
-  disown
+  in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
   wait_for desktop_is_managed
 }
 
@@ -82,12 +86,8 @@ window_manager_settings() {
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <focus><focusNew>yes</focusNew></focus>
   <mouse>
-    <context name="Close">
-      <mousebind button="Left" action="Click"><action name="Close"/></mousebind>
-    </context>
-    <context name="Iconify">
-      <mousebind button="Left" action="Click"><action name="Iconify"/></mousebind>
-    </context>
+    <context name="Close"><mousebind button="Left" action="Click"><action name="Close"/></mousebind></context>
+    <context name="Iconify"><mousebind button="Left" action="Click"><action name="Iconify"/></mousebind></context>
   </mouse>
 </openbox_config>
 END
@@ -100,7 +100,6 @@ desktop_is_managed() {
 # tool NAME <SCRIPT: puts a tool beside the program that keeps its arguments, each ended by a zero byte, and
 # then does what the script says.
 tool() {
-  mkdir -p "$folder"
   # shellcheck disable=SC2016
   { printf '#!/bin/bash\nprintf "%%s\\0" "$@" >"$0.part"\nmv "$0.part" "$0.args"\n' && cat; } >"$folder/$1"
   chmod +x "$folder/$1"
@@ -112,7 +111,6 @@ real_tool() {
 
 # run_program [ENVIRONMENT...]: by a link in $folder, where it then finds its tools.
 run_program() {
-  mkdir -p "$folder"
   ln -sf "$program" "$folder/tessavane"
   env -u QT_QPA_PLATFORM -u QT_SCALE_FACTOR -u WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS=none: "$mark" "$@" \
     "$folder/tessavane" 2>"$scratch/errors" &
@@ -178,12 +176,8 @@ find_control() {
       else if ("" in found) print main, found[""]
     }' "$sources"/*/form*_data.cpp) || return
   # This window moves its buttons to its lower edge, wherever that is with the frame that it got.
-  [ "$title" != "FFmpeg Equalizer String" ] || place[2]=$(($(inner_size Height) - 34))
-}
-
-# inner_size Width|Height: of the active window.
-inner_size() {
-  xwininfo -id "$(xdotool getactivewindow)" | awk "/ $1:/ { print \$2 }"
+  [ "$title" != "FFmpeg Equalizer String" ] || place[2]=$(($(xdotool getwindowgeometry --shell "$active" |
+    sed -n 's/HEIGHT=//p') - 34))
 }
 
 # click NAME: that control, once it is there.

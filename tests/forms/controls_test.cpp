@@ -1,114 +1,157 @@
 #include <unistd.h>
 
 #include <QAbstractButton>
-#include <QCloseEvent>
+#include <QAbstractSlider>
 #include <QLabel>
-#include <QSlider>
 #include <cmath>
 
-#include "support/in_step.h"
 #include "support/session.h"
 
 namespace {
 
 using Controls = support::Session;
 
-TEST_F(Controls, OptionsRaiseClickByHandAlwaysAndByAssignmentOnlyForADifference) {
-  std::string clicks;
-  for (int i = 0; i < 2; ++i)
-    Form1->Option2(i).onClick = [&clicks](int index) { clicks += std::to_string(index); };
-  click(Form1->Option2(0));
-  EXPECT_EQ(clicks, "0") << "a click on the selected one";
-  for (const bool value : {true, false}) Form1->Option2(0).setValue(value);
-  EXPECT_EQ(clicks, "0");
-  EXPECT_FALSE(Form1->Option2(0).value() || Form1->Option2(1).value()) << "the group is empty";
-  Form1->Option2(1).setValue(true);
-  EXPECT_EQ(clicks, "01");
-  ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));
-  Form1->Option2(1).setFocus();
-  QTest::keyClick(Form1->Option2(1).widget(), Qt::Key_Up);
-  EXPECT_EQ(clicks, "010") << "arrow keys walk the group";
-  click(Form1->Option1(3));
-  for (const auto* other : {&Form1->Option2(0), &Form1->Option3(1)})
-    EXPECT_TRUE(other->value()) << "each container is a group";
+TEST_F(Controls, AClickOnAChosenOptionRaisesAnAssignmentOfWhatIsThereDoesNot) {
+  record(Form1->Option1(0).onClick, "0");
+  record(Form1->Option1(4).onClick, "4");
+  click(Form1->Option1(0));
+  EXPECT_EQ(events, "0");
+  for (const bool value : {true, false}) Form1->Option1(0).setValue(value);
+  EXPECT_EQ(events, "0");
+  EXPECT_FALSE(Form1->Option1(0).value()) << "the group is empty";
+  Form1->Option1(4).setValue(true);
+  EXPECT_EQ(events, "04");
 }
 
-TEST_F(Controls, ShowTextAsItIsAndNoProgressThatCannotBe) {
+TEST_F(Controls, ArrowKeysWalkTheOptionsOfOneContainer) {
+  ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));
+  Form1->Option2(0).setFocus();
+  QTest::keyClick(Form1->Option2(0).widget(), Qt::Key_Down);
+  EXPECT_TRUE(Form1->Option2(1).value());
+  EXPECT_TRUE(Form1->Option1(0).value());
+  EXPECT_TRUE(Form1->Option3(1).value());
+}
+
+TEST_F(Controls, ShowTextAsItIs) {
   const std::string nasty = "<b>&x.wav & <%y%>";
-  Form1->Label7(0).setCaption(nasty);
+  Form1->Label7(4).setCaption(nasty);
   Form1->Command1(8).setCaption(nasty);
-  const auto* label = static_cast<QLabel*>(Form1->Label7(0).widget());
+  const auto* label = static_cast<QLabel*>(Form1->Label7(4).widget());
   EXPECT_EQ(label->text().toStdString(), nasty);
   EXPECT_EQ(label->textFormat(), Qt::PlainText);
   const auto* button = static_cast<QAbstractButton*>(Form1->Command1(8).widget());
   EXPECT_TRUE(QKeySequence::mnemonic(button->text()).isEmpty());
+}
+
+TEST_F(Controls, ShowNoProgressThatCannotBe) {
   for (const double value : {60.0, -1.0, 100.5, std::nan("")}) Form2->PBar.setValue(value);
   EXPECT_EQ(Form2->PBar.value(), 60);
 }
 
-TEST_F(Controls, APaintOnlyWaitPaintsAndKeepsTicksAndSizesForLater) {
-  struct Painted : QObject {
-    bool now = false;
-    bool eventFilter(QObject*, QEvent* event) override {
-      now |= event->type() == QEvent::Paint;
-      return false;
-    }
-  } painted;
-  int ticks = 0, depth = 0, ends[2];
-  ASSERT_EQ(pipe(ends), 0);
+TEST_F(Controls, AWindowComesBackFreshAfterAnUnloadOfWhichItsHandlersHearOnce) {
+  Form3->onQueryUnload = [this] {
+    events += "Q";
+    Form3.unload();
+  };
+  Form3->onUnload = [this] {
+    events += "U";
+    Form3->Text1.setText("still there");
+  };
+  Form3->show(&*Form1);
+  windowOf(Form3->Text1)->close();
+  EXPECT_EQ(events, "QU");
+  EXPECT_FALSE(Form3.isLoaded());
+  EXPECT_EQ(Form3->Text1.text(), "") << "a reference loads a new one";
+}
+
+TEST_F(Controls, ATimerDoesNotTickInsideItsOwnTick) {
+  int ticks = 0;
+  int depth = 0;
   Form1->Timer3.onTick = [&](int) {
-    EXPECT_EQ(++depth, 1) << "a tick inside a tick";
-    ++ticks;
+    EXPECT_EQ(++depth, 1);
     QTest::qWait(30);
     --depth;
+    ++ticks;
   };
   Form1->Timer3.setEnabled(true);
   EXPECT_TRUE(support::waitFor([&] { return ticks >= 2; }));
-
-  QWidget* label = Form1->Label7(0).widget();
-  QCloseEvent closing;
-  Form1->onQueryUnload = [] { ADD_FAILURE() << "a close inside the wait"; };
-  QTimer::singleShot(1, [&] { QApplication::sendEvent(label->window(), &closing); });
-  label->installEventFilter(&painted);
-  label->update();
-  ticks = 0;
-  forms::Application::waitPainting(ends[0], 60);
-  EXPECT_TRUE(painted.now);
-  EXPECT_EQ(ticks, 0) << "a tick inside the wait";
-  forms::Application::doEvents();
-  EXPECT_GE(ticks, 1) << "what was due in the wait was lost";
-  QTimer::singleShot(1, [&] { label->window()->showMinimized(); });
-  QTimer::singleShot(1, [] { static_cast<QSlider*>(Form1->Slider1(4).widget())->setValue(-5); });
-  forms::Application::waitPainting(ends[0], 60);
-  EXPECT_FALSE(AppState.WindowMinimised) << "Resize inside the wait";
-  EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; })) << "Resize was lost";
-  EXPECT_EQ(AppState.BandGainText[4], "5") << "a step inside the wait was lost";
-  // A screen reader is no input that the desktop would hold back.
-  QTimer::singleShot(1, [] {
-    const forms::Control* const pressed[] = {&Form1->Option2(1), &Form1->Option2(0), &Form1->Option2(1),
-                                             &Form1->Option3(0), &Form1->Check1};
-    for (const auto* one : pressed) static_cast<QAbstractButton*>(one->widget())->click();
-  });
-  forms::Application::waitPainting(ends[0], 60);
-  forms::Application::doEvents();
-  EXPECT_EQ(AppState.RangeIndex, 1) << "what was pressed last inside the wait";
-  EXPECT_EQ(support::outOfStep(), "");
-  close(ends[1]);
-  forms::Application::waitPainting(ends[0], -1);
-  close(ends[0]);
 }
 
-TEST_F(Controls, ALoadedWindowComesBackFreshAfterAnUnloadOfWhichHandlersHearOnce) {
-  std::string order;
-  const auto first = std::static_pointer_cast<EqStringWindow>(Form3->shared_from_this());
-  Form3->onQueryUnload = [&] { order += "Q", Form3.unload(); };
-  Form3->onUnload = [&] { order += "U", Form3->Text1.setText("still there"); };
+/// A wait for a tool, in which windows paint and nothing else happens.
+class PaintOnlyWait : public support::Session {
+ protected:
+  PaintOnlyWait() { EXPECT_EQ(pipe(ends_), 0); }
+  ~PaintOnlyWait() override {
+    close(ends_[0]);
+    close(ends_[1]);
+  }
+  /// Waits for output that does not come, and acts meanwhile.
+  void waitWith(const std::function<void()>& act) {
+    QTimer::singleShot(1, act);
+    forms::Application::waitPainting(ends_[0], 60);
+  }
+  QWidget* window = windowOf(Form1->Label6);
+
+ private:
+  int ends_[2];
+};
+
+TEST_F(PaintOnlyWait, Paints) {
+  struct : QObject {
+    bool painted = false;
+    bool eventFilter(QObject*, QEvent* event) override {
+      painted |= event->type() == QEvent::Paint;
+      return false;
+    }
+  } filter;
+  forms::Application::doEvents();
+  window->installEventFilter(&filter);
+  waitWith([this] { window->update(); });
+  EXPECT_TRUE(filter.painted);
+}
+
+TEST_F(PaintOnlyWait, KeepsTicksForLater) {
+  int ticks = 0;
+  Form1->Timer3.onTick = [&ticks](int) { ++ticks; };
+  Form1->Timer3.setEnabled(true);
+  waitWith([] {});
+  EXPECT_EQ(ticks, 0);
+  forms::Application::doEvents();
+  EXPECT_GE(ticks, 1);
+}
+
+TEST_F(PaintOnlyWait, KeepsAMinimisedWindowForLater) {
+  waitWith([this] { window->showMinimized(); });
+  EXPECT_FALSE(AppState.WindowMinimised);
+  EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; }));
+}
+
+TEST_F(PaintOnlyWait, LetsNoWindowClose) {
   Form3->show(&*Form1);
-  first->Text1.widget()->window()->close();
-  EXPECT_EQ(order, "QU");
-  EXPECT_FALSE(Form3.isLoaded());
-  EXPECT_EQ(Form3->Text1.text(), "") << "a reference loads a new one";
-  EXPECT_NE(&*Form3, first.get());
+  Form3->onQueryUnload = [this] { events += "Q"; };
+  waitWith([] { windowOf(Form3->Text1)->close(); });
+  EXPECT_EQ(events, "");
+}
+
+// What a screen reader does is no input that the desktop would hold back.
+
+TEST_F(PaintOnlyWait, KeepsAStepOfASliderForLater) {
+  waitWith([] { static_cast<QAbstractSlider*>(Form1->Slider1(4).widget())->setValue(-5); });
+  EXPECT_EQ(AppState.BandGainText[4], "0");
+  forms::Application::doEvents();
+  EXPECT_EQ(AppState.BandGainText[4], "5");
+}
+
+TEST_F(PaintOnlyWait, KeepsPressedButtonsForLaterAndOfAGroupTheLastOne) {
+  waitWith([] {
+    for (const forms::Control* pressed : std::initializer_list<forms::Control*>{
+             &Form1->Option2(1), &Form1->Option2(0), &Form1->Option2(1), &Form1->Check1})
+      static_cast<QAbstractButton*>(pressed->widget())->click();
+  });
+  EXPECT_EQ(AppState.RangeIndex, 0);
+  forms::Application::doEvents();
+  EXPECT_EQ(AppState.RangeIndex, 1);
+  EXPECT_EQ(Form1->Label7(3).caption(), "Indicators: Off");
 }
 
 TEST_F(Controls, AnUnknownIndexIsAFaultThatChangesNothing) {

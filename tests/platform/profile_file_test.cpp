@@ -45,7 +45,8 @@ TEST_F(ProfileFile, Reads) {
 TEST_F(ProfileFile, WritesOneLineAndLeavesAllOthers) {
   const std::string large = "[A]\nx=" + std::string(9000, 'y') + "\n";
   const struct {
-    std::string before, after;
+    std::string before;
+    std::string after;
     std::optional<std::string_view> value = "1";
   } cases[] = {
       {"", "[Preset#1]\r\nFrequency=1\r\n"},
@@ -66,24 +67,33 @@ TEST_F(ProfileFile, WritesOneLineAndLeavesAllOthers) {
   }
 }
 
-TEST_F(ProfileFile, KeepsLinksAndPermissionsAndWhereAWriteFailsTheOldText) {
-  const std::string file = own_.path() + "\\real\\..\\first", target = own_.file("real/file");
+TEST_F(ProfileFile, KeepsLinksAndPermissions) {
+  const std::string file = own_.path() + "\\real\\..\\first";
+  const std::string target = own_.file("real/file");
   fs::create_directory(own_.file("real"));
   fs::create_symlink("real/second", own_.file("first"));
   fs::create_symlink("file", own_.file("real/second"));
   EXPECT_TRUE(write(file, "1"));
   EXPECT_NE(fs::status(target).permissions(), fs::perms(0600)) << "those of a temporary file";
   fs::permissions(target, fs::perms(0604));
-  const std::string longer(5000, '2');
-  EXPECT_TRUE(write(file, longer));
+  EXPECT_TRUE(write(file, "2"));
   EXPECT_EQ(fs::status(target).permissions(), fs::perms(0604));
-  EXPECT_TRUE(fs::is_symlink(own_.file("first")) && fs::is_symlink(own_.file("real/second")));
+  EXPECT_TRUE(fs::is_symlink(own_.file("first")));
+  EXPECT_TRUE(fs::is_symlink(own_.file("real/second")));
+}
 
+TEST_F(ProfileFile, AFullDiskLeavesTheOldTextAndNoOtherFile) {
+  const std::string file = own_.file("file");
+  EXPECT_TRUE(write(file, "1"));
   signal(SIGXFSZ, SIG_IGN);
-  EXPECT_FALSE((support::Limit(RLIMIT_FSIZE, 4096), write(file, std::string(4500, '3'))));
-  EXPECT_FALSE(write(own_.path(), "4"));
-  EXPECT_EQ(read(file, 9999), longer);
-  EXPECT_EQ(std::distance(fs::directory_iterator(own_.file("real")), {}), 2) << "A temporary file was left.";
+  const support::Limit full(RLIMIT_FSIZE, 4096);
+  EXPECT_FALSE(write(file, std::string(4500, '2')));
+  EXPECT_EQ(read(file), "1");
+  EXPECT_EQ(std::distance(fs::directory_iterator(own_.path()), {}), 1);
+}
+
+TEST_F(ProfileFile, AFolderIsNone) {
+  EXPECT_FALSE(write(own_.path(), "1"));
 }
 
 TEST_F(ProfileFile, AKillAtAnyMomentLeavesEveryPresetWhole) {

@@ -1,120 +1,248 @@
 // A user who does anything at all with the real windows, and what has to hold after each step.
 // Usage: random_user [STEPS [SEED]]. A seed stands for the same actions each time.
+#include <QKeySequence>
 #include <QWheelEvent>
 #include <iostream>
 #include <random>
 
-#include "support/in_step.h"
 #include "support/session.h"
 
-/// Kinds of actions, each as often as it is to come; see `act`.
-constexpr std::string_view kKinds = "bbbbbbbbbbaaaaddddddwwwffffffmmsssp";
-using Dice = std::array<int, 6>;  ///< kind, window, widget, two numbers for a place or a key, manner
-const char* const kNames[] = {"a", "odd", "odd'\"", "loud", "", "new", "n/x", "..", "\n", "AppPresets.ini"};
-constexpr auto kTool = R"(case "$*" in *loud*) cat "$0" "$0"; exit 1;;
-*odd*) for t in '\r\n Dur' 'ation: 00:0' '3:21\r\ntime=00:0' '1:00 \377\000ti' 'me=N/A'; do printf "$t"; done;;
-*) echo ' Duration: 00:03:21.00,'; for t in 0 1 2; do echo "size=1kB time=00:0$t:00.00 bitrate"; done;; esac)";
-static int steps = 3000, seed = 1, step = 0, dragging = 0;
-static QString trail, answer;
+namespace {
 
-static QWidget* window(int number) {
-  if (number % 40 < 32) return Form1->Label6.widget()->window();
-  if (number % 40 < 39) return Form3.isLoaded() ? Form3->Text1.widget()->window() : nullptr;
+enum class Action {
+  PressButton,
+  Click,
+  DragSlider,
+  TurnWheel,
+  PressKey,
+  MoveMouse,
+  SizeWindow,
+  LetTimersEnd
+};
+
+/// What the user does once.
+struct Deed {
+  Action action;
+  int window, widget;  ///< which of those that there are
+  int x, y;            ///< a place on the widget, or the window's new size
+  int manner;          ///< 0 to 15
+  Qt::Key key;
+  const char* name;  ///< for a file dialog that opens
+};
+
+constexpr Qt::Key kKeys[] = {Qt::Key_Tab,  Qt::Key_Tab,   Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,
+                             Qt::Key_Home, Qt::Key_End,   Qt::Key_Left,  Qt::Key_Left,    Qt::Key_Right,
+                             Qt::Key_Up,   Qt::Key_Right, Qt::Key_Down,  Qt::Key_PageUp,  Qt::Key_PageDown,
+                             Qt::Key_X,    Qt::Key_Space, Qt::Key_Space, Qt::Key_Space};
+constexpr const char* kNames[] = {"a",   "odd", "odd'\"", "loud", "",
+                                  "new", "n/x", "..",     "\n",   "AppPresets.ini"};
+
+/// Prints what cannot be read, and a lot of it, where the source is "loud"; bit by bit where it is "odd".
+constexpr auto kTool = R"(
+case "$*" in
+  *loud*) cat "$0" "$0"; exit 1;;
+  *odd*) for piece in '\r\n Dur' 'ation: 00:0' '3:21\r\ntime=00:0' '1:00 \377\000ti' 'me=N/A'; do
+           printf "$piece"
+         done;;
+  *) echo ' Duration: 00:03:21.00,'
+     for second in 0 1 2; do echo "size=1kB time=00:0$second:00.00 bitrate"; done;;
+esac)";
+
+std::vector<std::string> trail;
+bool mouseIsDown = false;
+QString nameToAnswer;
+
+QPoint placeOn(const QWidget& widget, const Deed& deed) {
+  return {deed.x % std::max(1, widget.width()), deed.y % std::max(1, widget.height())};
+}
+
+void clickMouse(QWidget& widget, const Deed& deed) {
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, placeOn(widget, deed));
+}
+
+void dragMouse(QWidget& widget, const Deed& deed) {
+  const QPoint end = placeOn(widget, deed);
+  mouseIsDown = true;
+  QTest::mousePress(&widget, Qt::LeftButton, {}, deed.manner < 8 ? widget.rect().center() : end);
+  if (deed.manner % 4 == 0) forms::Application::doEvents();
+  QTest::mouseMove(&widget, end);
+  QTest::mouseRelease(&widget, Qt::LeftButton, {}, end);
+  mouseIsDown = false;
+}
+
+void turnWheel(QWidget& widget, const Deed& deed) {
+  const QPoint place = placeOn(widget, deed);
+  const QPoint turned(0, deed.manner * 40 - 300);
+  QWheelEvent event(place, widget.mapToGlobal(place), {}, turned, {}, {}, {}, false);
+  QApplication::sendEvent(&widget, &event);
+}
+
+void pressKey(QWidget& widget, const Deed& deed) {
+  QTest::keyClick(&widget, deed.key);
+}
+
+void moveMouse(QWidget& widget, const Deed& deed) {
+  const QPoint place = placeOn(widget, deed);
+  QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, {}, {});
+  QApplication::sendEvent(&widget, &event);
+}
+
+void sizeWindow(QWidget& window, const Deed& deed) {
+  if (deed.manner == 0) return window.showMinimized();
+  if (deed.manner > 4) window.showNormal();
+  if (deed.manner < 10) return;
+  window.setMinimumSize(0, 0);
+  window.resize(deed.x, deed.y);
+}
+
+void letTimersEnd(QWidget& /*widget*/, const Deed& /*deed*/) {
+  const auto stand = [] {
+    return !Form1->Timer3.enabled() && !(Form2.isLoaded() && Form2->Timer1.enabled());
+  };
+  EXPECT_TRUE(support::waitFor(stand)) << "a timer runs on";
+}
+
+struct Kind {
+  Action action;
+  int weight;  ///< how often it comes, beside the others
+  const char* words;
+  const char* widgets;  ///< the kind of widgets that it is done to
+  void (*perform)(QWidget&, const Deed&);
+};
+
+/// In the order of the actions.
+constexpr Kind kKinds[] = {
+    {Action::PressButton, 160, "presses", "QAbstractButton", clickMouse},
+    {Action::Click, 64, "clicks", "QWidget", clickMouse},
+    {Action::DragSlider, 96, "drags", "QSlider", dragMouse},
+    {Action::TurnWheel, 48, "turns the wheel over", "QSlider", turnWheel},
+    {Action::PressKey, 96, "types into", "QWidget", pressKey},
+    {Action::MoveMouse, 32, "moves the mouse over", "QWidget", moveMouse},
+    {Action::SizeWindow, 48, "sizes the window of", "QWidget", sizeWindow},
+    {Action::LetTimersEnd, 1, "waits for all timers beside", "QWidget", letTimersEnd},
+};
+
+Deed drawDeed(std::mt19937& random) {
+  const auto below = [&random](std::size_t limit) { return static_cast<int>(random() % limit); };
+  std::vector<Action> actions;
+  for (const Kind& kind : kKinds)
+    actions.insert(actions.end(), static_cast<std::size_t>(kind.weight), kind.action);
+  Deed deed{};
+  deed.action = actions[static_cast<std::size_t>(below(actions.size()))];
+  deed.window = below(40);
+  deed.widget = below(1000000);
+  deed.x = below(2000);
+  deed.y = below(2000);
+  deed.manner = below(16);
+  deed.key = kKeys[below(std::size(kKeys))];
+  deed.name = kNames[below(std::size(kNames))];
+  return deed;
+}
+
+/// The main window mostly; null for another that is not open.
+QWidget* windowOf(const Deed& deed) {
+  if (deed.window < 32) return Form1->Label6.widget()->window();
+  if (deed.window < 39) return Form3.isLoaded() ? Form3->Text1.widget()->window() : nullptr;
   return Form2.isLoaded() ? Form2->Command1.widget()->window() : nullptr;
 }
 
-/// What lasts from step to step: how much is open, the children (none), the width of the main window.
-static std::string atRest() {
-  auto count = QApplication::topLevelWidgets().size() - Form2.isLoaded() - Form3.isLoaded();
-  count += std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
-  count += AppState.WindowMinimised != Form1->minimised();
-  return std::to_string(count) + "/" + support::readFile("/proc/thread-self/children") + "/" +
-         std::to_string(Form1->scaleWidth());
+/// What the deed is done to, null where it cannot be done.
+QWidget* widgetOf(const Deed& deed) {
+  if (deed.action == Action::PressKey) return QApplication::focusWidget();
+  QWidget* window = windowOf(deed);
+  if (window == nullptr || deed.action == Action::SizeWindow) return window;
+  const char* kind = kKinds[static_cast<int>(deed.action)].widgets;
+  QList<QWidget*> widgets = window->findChildren<QWidget*>();
+  widgets.removeIf([kind](const QWidget* widget) { return !widget->inherits(kind); });
+  return widgets.isEmpty() || window->isMinimized() ? nullptr : widgets[deed.widget % widgets.size()];
 }
 
-static void act(const Dice& dice, const char* when) {
-  const char kind = kKinds[static_cast<std::size_t>(dice[0]) % kKinds.size()];
-  const char sign = "\1\1\1\2\4\20\21\22\22\23\24\24\25\26\27   X"[dice[3] % 19];
-  const char* type = kind == 'b' ? "QAbstractButton" : kind == 'd' || kind == 'w' ? "QSlider" : "QWidget";
-  QWidget* widget = kind == 'f' ? QApplication::focusWidget() : window(dice[1]);
-  if (widget != nullptr && !widget->isMinimized() && kind != 'f' && kind != 's') {
-    auto all = widget->findChildren<QWidget*>() << widget;
-    all.removeIf([type](const QWidget* one) { return !one->inherits(type); });
-    widget = all.isEmpty() ? nullptr : all[dice[2] % all.size()];
-  }
+void perform(const Deed& deed, const std::string& when) {
+  QWidget* widget = widgetOf(deed);
   if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return;
-  trail += "\n  " + QString::number(step) + when + kind + " " + widget->window()->objectName() + ".";
-  trail += widget->objectName();
-  for (const int number : dice) trail += " " + QString::number(number);
-  const int x = dice[3] % 2000, y = dice[4] % 2000, manner = dice[5] / 16 % 16;
-  const QPoint at(x % std::max(1, widget->width()), y % std::max(1, widget->height()));
-  QWheelEvent wheel(at, widget->mapToGlobal(at), {}, {0, manner * 40 - 300}, {}, {}, {}, false);
-  QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, {}, {});
-  answer = kNames[static_cast<std::size_t>(dice[5]) % std::size(kNames)];
-  if (kind == 'w') QApplication::sendEvent(widget, &wheel);
-  if (kind == 'm') QApplication::sendEvent(widget, &move);
-  if (kind == 'b' || kind == 'a') QTest::mouseClick(widget, Qt::LeftButton, {}, at);
-  if (kind == 'f') QTest::keyClick(widget, Qt::Key(sign < ' ' ? Qt::Key_Escape + sign : sign));
-  if (kind == 's' && manner == 0) widget->showMinimized();
-  if (kind == 's' && manner > 4) widget->showNormal();
-  if (kind == 's' && manner > 9) widget->setMinimumSize(0, 0), widget->resize(x, y);
-  dragging = kind == 'd';
-  if (dragging) QTest::mousePress(widget, Qt::LeftButton, {}, manner < 8 ? widget->rect().center() : at);
-  if (dragging && manner % 4 == 0) forms::Application::doEvents();
-  if (dragging) QTest::mouseMove(widget, at), QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
-  dragging = 0;
-  const auto still = [] { return !Form1->Timer3.enabled() && !(window(39) && Form2->Timer1.enabled()); };
-  EXPECT_TRUE(kind != 'p' || manner > 0 || support::waitFor(still)) << "a timer runs on";
+  const Kind& kind = kKinds[static_cast<int>(deed.action)];
+  std::ostringstream words;
+  words << when << " " << kind.words << " " << widget->window()->objectName().toStdString() << " "
+        << widget->objectName().toStdString() << " at " << deed.x << ", " << deed.y << " in manner "
+        << deed.manner << ", key " << QKeySequence(deed.key).toString().toStdString() << ", name <"
+        << deed.name << ">";
+  trail.push_back(words.str());
+  nameToAnswer = deed.name;
+  kind.perform(*widget, deed);
   EXPECT_EQ(support::outOfStep(), "");
 }
 
-/// Acts with coming events: outside of drags, of dialogs and of waits for a tool.
-static void actSoon(const Dice& dice) {
-  const auto due = [dice] {
-    const bool busy = dragging || QApplication::activeModalWidget() || forms::Application::isDeferring();
-    busy ? actSoon(dice) : act(dice, " in the middle ");
+/// Does it with coming events: outside of drags, of dialogs and of waits for a tool.
+void performSoon(const Deed& deed) {
+  const auto due = [deed] {
+    if (mouseIsDown || QApplication::activeModalWidget() != nullptr || support::isHeldBack())
+      performSoon(deed);
+    else
+      perform(deed, "  in the middle");
   };
   QMetaObject::invokeMethod(qApp, due, Qt::QueuedConnection);
 }
 
-struct RandomUser : support::Session, QObject {
-  bool eventFilter(QObject* object, QEvent* event) override {
-    auto* dialog = event->type() == QEvent::Show ? qobject_cast<QFileDialog*>(object) : nullptr;
-    const auto type = [dialog = QPointer(dialog), name = answer] {
-      if (!dialog) return;
-      trail += "\n  answer " + name;
-      dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
-      QTest::keyClick(dialog->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
-      if (dialog->isVisible()) dialog->reject();
-    };
-    const auto served = [=] { forms::Application::runOrDefer(dialog, type); };
-    return dialog != nullptr && !QMetaObject::invokeMethod(this, served, Qt::QueuedConnection);
-  }
-};
+void answerDialog() {
+  QFileDialog* dialog = support::openDialog();
+  if (dialog == nullptr || support::isHeldBack()) return;
+  trail.push_back("  answers <" + nameToAnswer.toStdString() + ">");
+  support::answer(*dialog, nameToAnswer);
+  if (dialog->isVisible()) dialog->reject();
+}
+
+/// What lasts from step to step.
+std::string atRest() {
+  std::ostringstream text;
+  text << QApplication::topLevelWidgets().size() - Form2.isLoaded() - Form3.isLoaded() << " windows, "
+       << std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {})
+       << " descriptors, children <" << support::readFile("/proc/thread-self/children")
+       << ">, main window of " << Form1->scaleWidth() << " pixels, minimised "
+       << (AppState.WindowMinimised == Form1->minimised() ? "as known" : "unknown");
+  return text.str();
+}
+
+using RandomUser = support::Session;
 
 TEST_F(RandomUser, LeavesAllInOrder) {
-  const auto words = testing::internal::GetArgvs();
-  for (std::size_t i = 1; i < words.size(); ++i) (i == 1 ? steps : seed) = std::stoi(words[i]);
+  const auto arguments = testing::internal::GetArgvs();
+  const int steps = arguments.size() > 1 ? std::stoi(arguments[1]) : 3000;
+  const int seed = arguments.size() > 2 ? std::stoi(arguments[2]) : 1;
   std::cout << steps << " steps, seed " << seed << std::endl;
   for (const char* tool : {"ffprobe", "ffplay", "ffmpeg"}) support::writeScript(folder, tool, kTool);
-  for (int i = 0; i < 4; ++i) support::writeText(folder, kNames[i], "sound");
+  for (const char* name : {"a", "odd", "odd'\"", "loud"}) support::writeText(folder, name, "sound");
   Form1->Command1(10).onClick = nullptr;  // Would end the process.
-  qApp->installEventFilter(this);
-  act({}, " ");  // What the first dialog and the first run open stays open.
-  std::string before;
-  EXPECT_TRUE(support::waitFor([&] { return (before = atRest()).find("//") != std::string::npos; }));
-  const void* hooked = nullptr;
+  // What the first dialog and the first run open stays open.
+  openSource(folder.file("odd"));
+  EXPECT_TRUE(support::waitFor([] { return atRest().find("<>") != std::string::npos; }));
+  const std::string before = atRest();
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, &answerDialog);
+  answers.start(0);
+
   std::mt19937 random(static_cast<unsigned>(seed));
-  for (step = 1; step <= steps && !HasFailure(); ++step) {
-    std::array<Dice, 3> dice;
-    for (Dice& one : dice) std::ranges::generate(one, [&] { return static_cast<int>(random() >> 8); });
-    if (dice[0][0] / 256 % 4 == 0) actSoon(dice[1]);
-    act(dice[0], " ");
-    if (std::exchange(hooked, window(39)) != window(39) && window(39) != nullptr)
-      Form2->Timer1.onTick = [dice](int) { actSoon(dice[2]), Form2->Timer1_Timer(); };
+  bool wasRendering = false;
+  for (int step = 1; step <= steps && !HasFailure(); ++step) {
+    const Deed deed = drawDeed(random);
+    const Deed meanwhile = drawDeed(random);
+    const Deed inRender = drawDeed(random);
+    if (random() % 4 == 0) performSoon(meanwhile);
+    perform(deed, std::to_string(step));
+    if (Form2.isLoaded() && !wasRendering) {
+      Form2->Timer1.onTick = [inRender](int) {
+        performSoon(inRender);
+        Form2->Timer1_Timer();
+      };
+    }
+    wasRendering = Form2.isLoaded();
     forms::Application::doEvents();
     EXPECT_EQ(support::outOfStep(), "");
     EXPECT_TRUE(support::waitFor([&] { return atRest() == before; })) << atRest() << " instead of " << before;
-    if (HasFailure()) std::cout << "seed " << seed << " step " << step << qPrintable(": " + trail.right(800));
+    if (!HasFailure()) continue;
+    std::cout << "seed " << seed << ", step " << step << ":\n";
+    const std::size_t old = trail.size() > 20 ? trail.size() - 20 : 0;
+    for (std::size_t i = old; i < trail.size(); ++i) std::cout << trail[i] << "\n";
   }
 }
+
+}  // namespace

@@ -10,10 +10,9 @@
 #include <QTimer>
 #include <functional>
 
-#include "core/app_state.h"
 #include "forms/application.h"
+#include "support/in_step.h"
 #include "support/temp_folder.h"
-#include "windows/form1.h"
 #include "windows/form2.h"
 #include "windows/form3.h"
 #include "windows/startup.h"
@@ -25,7 +24,25 @@ inline bool waitFor(const std::function<bool()>& condition) {
   return QTest::qWaitFor(condition, 20000);
 }
 
-/// The program after its start, in a folder of its own that has no tools yet.
+/// True while the program takes no input.
+inline bool isHeldBack() {
+  return forms::Application::isDeferring();
+}
+
+/// The file dialog that waits for an answer, null where there is none.
+inline QFileDialog* openDialog() {
+  return qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+}
+
+/// Types `path` into a file dialog and presses Enter.
+inline void answer(QFileDialog& dialog, const QString& path) {
+  auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+  name->setText(path);
+  QTest::keyClick(name, Qt::Key_Return);
+}
+
+/// The program after its start, in a folder of its own that has no tools yet. Its controls have to be in step
+/// at the end of each test.
 class Session : public testing::Test {
  protected:
   Session() { Main(); }
@@ -33,37 +50,61 @@ class Session : public testing::Test {
     Form3.unload();
     Form2.unload();
     // The handlers of the main window would end the process.
-    Form1->onQueryUnload = Form1->onUnload = Form1->onTerminate = nullptr;
+    Form1->onQueryUnload = nullptr;
+    Form1->onUnload = nullptr;
+    Form1->onTerminate = nullptr;
     Form1.unload();
     AppState = {};
     forms::Application::doEvents();
-    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << "a window is left over";
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << "a window is left over by " << testName();
+  }
+  void TearDown() override { EXPECT_EQ(outOfStep(), "") << "at the end of " << testName(); }
+
+  static std::string testName() { return testing::UnitTest::GetInstance()->current_test_info()->name(); }
+  static QWidget* windowOf(const forms::Control& control) { return control.widget()->window(); }
+  static void click(forms::Control& control) { QTest::mouseClick(control.widget(), Qt::LeftButton); }
+
+  /// Notes `name` in `events` each time before the event's handler runs.
+  void record(forms::Event& event, const std::string& name) {
+    event = [this, name, handler = event](int index) {
+      events += name;
+      handler(index);
+    };
   }
 
-  static void click(forms::Control& control) { QTest::mouseClick(control.widget(), Qt::LeftButton); }
-  static void openSource(const std::string& path) { clickAndAnswer(Form1->Command1(0), path); }
-  static void saveAs(const std::string& path) { clickAndAnswer(Form1->Command1(3), path); }
-  static void clickAndAnswer(forms::Control& button, const std::string& path) {
-    answerDialog(path);
+  /// Acts once, as soon as `condition` holds and the program takes input.
+  void once(const std::function<bool()>& condition, const std::function<void()>& act) {
+    auto* watch = new QTimer(&watches_);
+    QObject::connect(watch, &QTimer::timeout, watch, [watch, condition, act] {
+      if (isHeldBack() || !condition()) return;
+      watch->stop();
+      act();
+    });
+    watch->start(1);
+  }
+
+  /// Answers the dialog that the button opens with `path`, or with a Cancel where it is empty.
+  void clickAndAnswer(forms::Control& button, const std::string& path) {
+    const auto isOpen = [] { return openDialog() != nullptr; };
+    once(isOpen, [this, path] {
+      shownFilter = openDialog()->selectedNameFilter().toStdString();
+      if (path.empty())
+        openDialog()->reject();
+      else
+        answer(*openDialog(), QString::fromStdString(path));
+    });
     click(button);
   }
-  /// Answers the next file dialog with `path`, or with a Cancel where it is empty.
-  static void answerDialog(const std::string& path) {
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, path] {
-      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      timer->deleteLater();
-      timer->stop();
-      if (path.empty()) return dialog->reject();
-      auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-      name->setText(QString::fromStdString(path));
-      QTest::keyClick(name, Qt::Key_Return);
-    });
-    timer->start(1);
-  }
+  void openSource(const std::string& path) { clickAndAnswer(Form1->Command1(0), path); }
+  void saveAs(const std::string& path) { clickAndAnswer(Form1->Command1(3), path); }
 
   OwnFolder folder;
+  std::string events;
+  /// What the last file dialog showed at first.
+  std::string shownFilter;
+
+ private:
+  QObject watches_;
 };
 
 }  // namespace support

@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 #include "support/session.h"
 #include "windows/form3.h"
@@ -8,6 +9,7 @@ namespace {
 
 class StringWindow : public support::Session {
  protected:
+  StringWindow() { open(); }
   static void open() { Form1->Command1_Click(6); }
   static void compose() { Form1->Slider3.setValue(3 - Form1->Slider3.value()); }
   static QPlainTextEdit& box() { return *static_cast<QPlainTextEdit*>(Form3->Text1.widget()); }
@@ -15,59 +17,83 @@ class StringWindow : public support::Session {
   static std::string listed() { return chain().replace(",", "\r\n").toStdString(); }
 };
 
+TEST_F(StringWindow, BelongsToTheMainWindow) {
+  EXPECT_EQ(windowOf(Form3->Text1)->windowHandle()->transientParent(),
+            windowOf(Form1->Label6)->windowHandle());
+}
+
 TEST_F(StringWindow, ShowsEveryChainAndStandsEmptyWhenItIsOpenedAnew) {
-  open();
   compose();
   forms::Application::doEvents();
   EXPECT_EQ(box().toPlainText(), chain());
   click(Form3->Command1(1));
   open();
   EXPECT_EQ(Form3->Text1.text(), "");
+}
+
+TEST_F(StringWindow, ShowsTheChainThatWasComposedBeforeItOpens) {
   click(Form3->Command1(1));
   compose();
   open();
-  EXPECT_EQ(box().toPlainText(), chain()) << "loaded hidden by the composition";
+  EXPECT_EQ(box().toPlainText(), chain());
 }
 
 TEST_F(StringWindow, MovesItsControlsWithItsSize) {
-  open();
   const std::tuple<int, int, QList<double>> rows[] = {
       {572, 254, {564, 184, 204, 451}}, {900, 500, {880, 430, 450, 767}}, {900, 50, {880, 430, 450, 767}}};
   for (const auto& [width, height, expected] : rows) {
     box().window()->resize(width, height);
-    QList<double> found{Form3->Text1.width(), Form3->Text1.height()};
-    found << Form3->Command1(0).top() << Form3->Command1(1).left();
+    const QList<double> found{Form3->Text1.width(), Form3->Text1.height(), Form3->Command1(0).top(),
+                              Form3->Command1(1).left()};
     EXPECT_EQ(found, expected) << "at a height of " << height;
   }
 }
 
-TEST_F(StringWindow, ListsOneFilterALineWhileTheProgramIsServedAndSaysSoForAWhile) {
-  open();
+TEST_F(StringWindow, ListsOneFilterALine) {
   click(Form3->Command1(2));
   EXPECT_EQ(Form3->caption(), kForm3Data.caption) << "an empty box";
   compose();
-  std::string meanwhile;
-  Form3->Text1.onChange = [&](int) {
-    meanwhile = Form3->caption() + (Form3->Command1(0).enabled() || Form3->Text1.enabled() ? "!" : "");
+  Form3->Text1.onChange = [this](int) {
+    events += Form3->caption();
+    EXPECT_FALSE(Form3->Command1(0).enabled() || Form3->Text1.enabled());
   };
-  QTimer::singleShot(1, [] { Form1->Slider1(4).setValue(-8); });
-  click(Form3->Command1(2));
-  EXPECT_EQ(meanwhile + Form3->caption(), "Working...Done.");
-  EXPECT_EQ(Form1->Slider1(4).value(), -8);
-  EXPECT_EQ(Form3->Text1.text(), listed()) << "a chain composed meanwhile";
+  for (int i = 0; i < 2; ++i) {
+    click(Form3->Command1(2));
+    EXPECT_EQ(Form3->Text1.text(), listed());
+  }
+  EXPECT_EQ(events, "Working...");
   EXPECT_TRUE(Form3->Text1.enabled() && Form3->Command1(0).enabled());
-  QTimer::singleShot(kForm3Data.timers[0].interval, Qt::PreciseTimer, [&] { meanwhile = Form3->caption(); });
-  click(Form3->Command1(2));
-  EXPECT_EQ(Form3->Text1.text(), listed()) << "listed twice";
-  EXPECT_TRUE(support::waitFor([&] { return meanwhile != "Working..." && !Form3->Timer1.enabled(); }));
-  EXPECT_EQ(meanwhile + Form3->caption(), "Done.FFmpeg Equalizer String") << "from the second listing on";
-  QTimer::singleShot(1, [] { click(Form3->Command1(1)); });
-  click(Form3->Command1(2));
-  EXPECT_FALSE(Form3.isLoaded()) << "closed while it lists";
 }
 
-TEST_F(StringWindow, SavesAndCopiesWhatTheBoxShowsWithItsEdits) {
-  open();
+TEST_F(StringWindow, ListsAChainThatIsComposedMeanwhile) {
+  compose();
+  QTimer::singleShot(1, [] { Form1->Slider1(4).setValue(-8); });
+  click(Form3->Command1(2));
+  EXPECT_EQ(Form1->Slider1(4).value(), -8);
+  EXPECT_EQ(Form3->Text1.text(), listed());
+}
+
+TEST_F(StringWindow, SaysThatItIsDoneForAWhileAfterTheLastListing) {
+  compose();
+  click(Form3->Command1(2));
+  std::string afterAWhile;
+  QTimer::singleShot(kForm3Data.timers[0].interval, Qt::PreciseTimer,
+                     [&] { afterAWhile = Form3->caption(); });
+  click(Form3->Command1(2));
+  EXPECT_EQ(Form3->caption(), "Done.");
+  EXPECT_TRUE(support::waitFor([] { return !Form3->Timer1.enabled(); }));
+  EXPECT_EQ(afterAWhile, "Done.");
+  EXPECT_EQ(Form3->caption(), "FFmpeg Equalizer String");
+}
+
+TEST_F(StringWindow, StopsListingWhenItIsClosed) {
+  compose();
+  QTimer::singleShot(1, [] { click(Form3->Command1(1)); });
+  click(Form3->Command1(2));
+  EXPECT_FALSE(Form3.isLoaded());
+}
+
+TEST_F(StringWindow, CopiesWhatTheBoxShowsAndTellsUntilItIsEdited) {
   compose();
   QTest::keyClick(&box(), Qt::Key_Return);
   click(Form3->Command1(3));
@@ -75,15 +101,23 @@ TEST_F(StringWindow, SavesAndCopiesWhatTheBoxShowsWithItsEdits) {
   EXPECT_EQ(Form3->Command1(3).caption(), "Data On Clipboard");
   QTest::keyClicks(&box(), "#");
   EXPECT_EQ(Form3->Command1(3).caption(), "Copy to Clipboard");
+}
+
+TEST_F(StringWindow, SavesWhatTheBoxShowsButNotOverTheSource) {
   const std::string source = support::writeText(folder, "source.wav", "sound");
   openSource(source);
-  // A Cancel counts, whatever a dialog inside this one was answered with.
-  QTimer::singleShot(0, [&] { Form1->CDialog.setFileName(folder.file("cancelled")); });
+  compose();
+  QTest::keyClick(&box(), Qt::Key_Return);
+  for (const std::string& answer : {folder.file("chain"), source}) clickAndAnswer(Form3->Command1(0), answer);
+  EXPECT_EQ(shownFilter, "Text Files (*.txt)");
+  EXPECT_EQ(support::readFile(folder.file("chain")), "\r\n" + AppState.EqString + "\r\n");
+  EXPECT_EQ(support::readFile(source), "sound");
+}
+
+TEST_F(StringWindow, SavesNothingAfterACancelWhateverADialogInsideThisOneWasAnsweredWith) {
+  QTimer::singleShot(0, [this] { Form1->CDialog.setFileName(folder.file("cancelled")); });
   clickAndAnswer(Form3->Command1(0), "");
   EXPECT_FALSE(std::filesystem::exists(folder.file("cancelled")));
-  for (const std::string& answer : {folder.file("chain"), source}) clickAndAnswer(Form3->Command1(0), answer);
-  EXPECT_EQ(support::readFile(folder.file("chain")), "\r\n#" + AppState.EqString + "\r\n");
-  EXPECT_EQ(support::readFile(source), "sound");
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ class NameDialog : public QFileDialog {
     setFileMode(AnyFile);
     connect(this, &QFileDialog::filterSelected, this, &NameDialog::widenFilter);
     resize(720, 440);
-    // By itself the list cuts sizes and dates short.
+    // Qt's own widths of the columns cut sizes and dates short.
     if (auto* list = findChild<QTreeView*>())
       list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
@@ -55,7 +55,7 @@ class NameDialog : public QFileDialog {
   }
 
   void done(int result) override {
-    // While the list of names that match is open, the focus does not go back to the program's window.
+    // While its list of completions is open, Qt does not give the focus back to the program's window.
     if (QWidget* names = QApplication::activePopupWidget()) names->close();
     QFileDialog::done(result);
   }
@@ -86,6 +86,7 @@ void CommonDialog::show(bool save) {
   if (filterIndex_ >= 1 && filterIndex_ <= filters.size()) dialog.selectNameFilter(filters[filterIndex_ - 1]);
   dialog.setDirectory(toQt(initDir_));
   dialog.widenFilter();
+  // Handlers that run while the dialog is open can set the name.
   const std::string asked = fileName_;
   fileName_ = dialog.exec() == QDialog::Accepted ? fromQt(dialog.chosen()) : asked;
   if (before) before->activateWindow();

@@ -61,60 +61,35 @@ Control::Control(FormWindow& form, const ControlData& data, QWidget* widget)
   filter->watch(widget);
   if (auto* scrolled = qobject_cast<QAbstractScrollArea*>(widget)) filter->watch(scrolled->viewport());
   const double scale = container_.unitsPerPixel() / kTwipsPerPixel;
-  left_ = data.left * scale;
-  top_ = data.top * scale;
-  width_ = data.width * scale;
-  height_ = data.height * scale;
   widget->setObjectName(data.index == kSingle ? QString(data.name)
                                               : QString("%1(%2)").arg(data.name).arg(data.index));
   if (data.look.fontSize != Look{}.fontSize || data.look.bold)
     widget->setFont(fontOf(data.look.fontSize, data.look.bold));
   widget->setParent(&container_);
   if (*data.spokenName != '\0') widget->setAccessibleName(data.spokenName);
-  place();
+  place(data.left * scale, data.top * scale, data.width * scale, data.height * scale);
   setVisible(!data.look.hidden);
   if (data.look.outOfSight) widget->hide();
   applyColors();
 }
 
-void Control::place() {
+void Control::place(double left, double top, double width, double height) {
+  left_ = left;
+  top_ = top;
+  width_ = width;
+  height_ = height;
   const double pixel = 1 / container_.unitsPerPixel();
   const int border = container_.border();
-  QRect extent = QRectF(left_ * pixel, top_ * pixel, width_ * pixel, height_ * pixel).toRect();
+  QRect extent = QRectF(left * pixel, top * pixel, width * pixel, height * pixel).toRect();
   extent.translate(border, border);
   // A control as wide as its box would cover the border.
   if (border > 0) extent &= container_.rect().adjusted(border, border, -border, -border);
   widget_->setGeometry(extent);
 }
 
-void Control::setExtent(double left, double width, double height) {
-  left_ = left;
-  width_ = width;
-  height_ = height;
-  place();
-}
-
-void Control::setLeft(double left) {
-  left_ = left;
-  place();
-}
-
-void Control::setTop(double top) {
-  top_ = top;
-  place();
-}
-
-void Control::setWidth(double width) {
-  if (width < 0) return;
-  width_ = width;
-  place();
-  refit();
-}
-
-void Control::setHeight(double height) {
-  if (height < 0) return;
-  height_ = height;
-  place();
+void Control::setSize(double width, double height) {
+  if (width < 0 || height < 0) return;
+  place(left_, top_, width, height);
   refit();
 }
 
@@ -149,7 +124,7 @@ void Control::applyColors() {
   const QColor fore = toQt(fore_);
   const bool takesText = widget_->inherits("QLineEdit") || widget_->inherits("QPlainTextEdit");
   const auto ground = takesText ? QPalette::Base : widget_->backgroundRole();
-  // Qt resolves the palettes of a whole tree at each set: what a widget inherits anyway is left alone.
+  // Qt hands a palette on to all inner widgets and repaints them: what is inherited anyway is left alone.
   if (palette.color(ground) == back && palette.color(QPalette::Active, QPalette::WindowText) == fore) return;
   palette.setColor(ground, back);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {

@@ -46,10 +46,10 @@ class Control : public Item {
   double top() const { return top_; }
   double width() const { return width_; }
   double height() const { return height_; }
-  void setLeft(double left);
-  void setTop(double top);
-  void setWidth(double width);
-  void setHeight(double height);
+  void setLeft(double left) { place(left, top_, width_, height_); }
+  void setTop(double top) { place(left_, top, width_, height_); }
+  void setWidth(double width) { setSize(width, height_); }
+  void setHeight(double height) { setSize(width_, height); }
 
   bool visible() const { return visible_; }
   void setVisible(bool visible);
@@ -78,17 +78,17 @@ class Control : public Item {
 
   /// Called when size, text or font have changed.
   virtual void refit() {}
-  void setExtent(double left, double width, double height);
+  void place(double left, double top, double width, double height);
   Surface& container() const { return container_; }
 
  private:
   friend class MouseFilter;
-  void place();
+  void setSize(double width, double height);
   void applyColors();
 
   QWidget* widget_;
   Surface& container_;
-  double left_, top_, width_, height_;
+  double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
   bool visible_ = true;
   Color back_, fore_;
   std::string toolTip_;

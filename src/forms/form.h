@@ -48,7 +48,8 @@ class ControlArray {
   ControlArray(Form& form, const char* name) : form_(form), name_(name), items_(form.items_[name]) {}
 
   T& operator()(int index) {
-    return static_cast<T&>(has(index) ? *items_[static_cast<std::size_t>(index)] : form_.spare(name_));
+    Item* member = find(index);
+    return static_cast<T&>(member != nullptr ? *member : form_.spare(name_));
   }
 
   /// Number of members, gaps not counted.
@@ -59,7 +60,7 @@ class ControlArray {
   /// Makes a new member with the stored properties of member 0, hidden. Nothing happens where the index is
   /// taken or negative.
   void load(int index) {
-    if (index < 0 || has(index)) return;
+    if (index < 0 || find(index) != nullptr) return;
     form_.loadMember(name_, index);
     (*this)(index).setVisible(false);
   }
@@ -72,9 +73,10 @@ class ControlArray {
   }
 
  private:
-  bool has(int index) const {
-    return index >= 0 && static_cast<std::size_t>(index) < items_.size() &&
-           items_[static_cast<std::size_t>(index)] != nullptr;
+  /// Null where there is none; a negative index is beyond the end.
+  Item* find(int index) const {
+    const auto place = static_cast<std::size_t>(index);
+    return place < items_.size() ? items_[place].get() : nullptr;
   }
 
   Form& form_;

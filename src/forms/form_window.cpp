@@ -183,8 +183,8 @@ FormWindow::~FormWindow() = default;
 
 Surface& FormWindow::surface(const char* container) const {
   if (*container == '\0') return *window_;
-  auto* found = dynamic_cast<Surface*>(window_->findChild<QWidget*>(container));
-  return found != nullptr ? *found : *window_;
+  if (auto* found = dynamic_cast<Surface*>(window_->findChild<QWidget*>(container))) return *found;
+  return *window_;
 }
 
 void FormWindow::setCaption(const std::string& caption) {

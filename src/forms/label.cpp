@@ -11,16 +11,9 @@
 namespace forms {
 namespace {
 
-Qt::Alignment qtAlignment(Alignment alignment) {
-  switch (alignment) {
-    case Alignment::Right:
-      return Qt::AlignRight | Qt::AlignVCenter;
-    case Alignment::Centre:
-      return Qt::AlignHCenter | Qt::AlignVCenter;
-    default:
-      return Qt::AlignLeft | Qt::AlignVCenter;
-  }
-}
+/// By alignment: what Qt calls it, and the share of a change in width that goes to the left.
+constexpr Qt::AlignmentFlag kFlags[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+constexpr double kLeftShares[] = {0, 1, 0.5};
 
 QLabel* makeLabel() {
   auto* label = new QLabel;
@@ -58,7 +51,7 @@ void Label::setCaption(const std::string& caption) {
 
 void Label::setAlignment(Alignment alignment) {
   alignment_ = alignment;
-  static_cast<QLabel*>(widget())->setAlignment(qtAlignment(alignment));
+  static_cast<QLabel*>(widget())->setAlignment(kFlags[static_cast<int>(alignment)] | Qt::AlignVCenter);
 }
 
 void Label::setAutoSize(bool autoSize) {
@@ -80,10 +73,10 @@ void Label::refit() {
 
 void Label::fitToText() {
   const QFontMetricsF metrics(widget()->font());
-  const double needed = std::ceil(metrics.horizontalAdvance(toQt(caption_))) * container().unitsPerPixel();
-  const double shares[] = {0, 1, 0.5};
-  const double shift = (width() - needed) * shares[static_cast<int>(alignment_)];
-  setExtent(left() + shift, needed, std::ceil(metrics.height()) * container().unitsPerPixel());
+  const double unit = container().unitsPerPixel();
+  const double needed = std::ceil(metrics.horizontalAdvance(toQt(caption_))) * unit;
+  const double shift = (width() - needed) * kLeftShares[static_cast<int>(alignment_)];
+  place(left() + shift, top(), needed, std::ceil(metrics.height()) * unit);
 }
 
 Shape::Shape(FormWindow& form, const ControlData& data) : Control(form, data, new Outline) {}

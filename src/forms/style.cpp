@@ -7,6 +7,8 @@
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
 
+#include "forms/form_data.h"
+
 namespace forms {
 namespace {
 
@@ -80,14 +82,14 @@ class Style : public QProxyStyle {
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    // Labels in a read-out change many times a second and are no menu: nothing here fades or animates.
+    // Each frame of an animation would wake an otherwise idle process.
     if (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 
  private:
-  // Fusion caches pictures of a slider's parts, one for each palette object: the sliders' own palettes, equal
-  // or not, would have it draw 34 times what it draws once with these.
+  // Fusion keeps pictures of the parts of sliders that it has drawn, by palette object: each slider's own
+  // palette, though equal to the others, would have it draw all parts anew.
   QPalette handle_;
   QPalette groove_;
   QPalette focus_;
@@ -129,7 +131,7 @@ void drawOutline(QPainter& painter, const QRect& extent, const QColor& color) {
 void applyStyle() {
   QApplication::setStyle(new Style);
   QApplication::setPalette(lightPalette());
-  QApplication::setFont(fontOf(8.25, false));
+  QApplication::setFont(fontOf(Look{}.fontSize, false));
 }
 
 }  // namespace forms

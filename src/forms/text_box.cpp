@@ -77,8 +77,8 @@ void TextBox::setText(const std::string& text) {
 void TextBox::syncSoon() {
   if (queued_ || !widget()->isVisible()) return;
   queued_ = true;
-  QMetaObject::invokeMethod(
-      widget(), [this] { queued_ = false, sync(); }, Qt::QueuedConnection);
+  const auto syncNow = [this] { queued_ = false, sync(); };
+  QMetaObject::invokeMethod(widget(), syncNow, Qt::QueuedConnection);
 }
 
 void TextBox::sync() {

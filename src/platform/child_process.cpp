@@ -35,7 +35,7 @@ WaitHook& waitHook() {
 void prepareSignals() {
   [[maybe_unused]] static const bool prepared = [] {
     signal(SIGPIPE, SIG_IGN);
-    struct sigaction reap {};
+    struct sigaction reap = {};
     reap.sa_handler = SIG_DFL;
     reap.sa_flags = SA_NOCLDWAIT;
     return sigaction(SIGCHLD, &reap, nullptr) == 0;

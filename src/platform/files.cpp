@@ -14,7 +14,7 @@
 namespace platform {
 
 std::string shortPath(const std::string& longPath) {
-  struct stat status {};
+  struct stat status = {};
   std::error_code error;
   if (stat(longPath.c_str(), &status) != 0) return {};
   const std::string path = std::filesystem::absolute(longPath, error).string();
@@ -27,8 +27,8 @@ std::string longPath(std::string_view shortPath) {
 }
 
 bool sameFile(const std::string& one, const std::string& other) {
-  struct stat first {};
-  struct stat second {};
+  struct stat first = {};
+  struct stat second = {};
   return stat(one.c_str(), &first) == 0 && stat(other.c_str(), &second) == 0 &&
          first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }

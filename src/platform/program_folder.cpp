@@ -25,7 +25,6 @@ std::string folderAtStart() {
   std::filesystem::path file;
   std::error_code error;
   // The name given to exec: unlike the link in /proc it still shows the links by which we were started.
-  // NOLINTNEXTLINE(performance-no-int-to-ptr): the system hands the address over as a number.
   if (const auto* name = reinterpret_cast<const char*>(getauxval(AT_EXECFN)))
     file = std::filesystem::absolute(name, error);
   if (error || !sameFile(file.string(), own)) file = std::filesystem::read_symlink(own, error);

@@ -87,6 +87,7 @@ class StartPlan {
   /// Process id of the new child, -1 where there is none.
   [[nodiscard]] pid_t run(const Command& command) const {
     std::vector<char*> arguments;
+    arguments.reserve(command.arguments.size() + 1);
     for (const std::string& argument : command.arguments)
       arguments.push_back(const_cast<char*>(argument.c_str()));
     arguments.push_back(nullptr);

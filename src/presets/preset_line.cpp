@@ -27,8 +27,9 @@ std::optional<Number> parsed(std::string_view text) {
   text = trimmed(text);
   if (text.size() > 1 && text.front() == '+' && text[1] != '-') text.remove_prefix(1);
   Number number{};
-  const char* const end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, number);
+  const char* const begin = text.data();
+  const char* const end = begin + text.size();
+  const auto result = std::from_chars(begin, end, number);
   if (result.ec == std::errc::invalid_argument || result.ptr != end) return std::nullopt;
   using Limits = std::numeric_limits<Number>;
   if (result.ec != std::errc()) return text.front() == '-' ? Limits::lowest() : Limits::max();

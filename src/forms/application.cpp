@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
+#include <QEventLoop>
 #include <QIcon>
 #include <QPointer>
 #include <QSettings>
@@ -110,16 +111,21 @@ void Application::waitPainting(int descriptor, int milliseconds) {
     return;
   }
   bool over = false;
-  QSocketNotifier readable(descriptor, QSocketNotifier::Read);
-  QObject::connect(&readable, &QSocketNotifier::activated, [&] {
-    readable.setEnabled(false);
+  QEventLoop loop;
+  const auto stop = [&] {
     over = true;
-  });
+    loop.quit();
+  };
+  QSocketNotifier readable(descriptor, QSocketNotifier::Read);
+  QObject::connect(&readable, &QSocketNotifier::activated, stop);
   QTimer limit;
   limit.setSingleShot(true);
-  QObject::connect(&limit, &QTimer::timeout, [&] { over = true; });
+  QObject::connect(&limit, &QTimer::timeout, stop);
   if (milliseconds > 0) limit.start(milliseconds);
-  while (!over) QCoreApplication::processEvents(kPaintOnly | QEventLoop::WaitForMoreEvents);
+  loop.exec(kPaintOnly);
+  // Where the display is lost, Qt ends the process; from 6.11 on it calls `QCoreApplication::exit` instead,
+  // which makes every event loop return, this one and any begun later, but not the run that waits here.
+  if (!over) std::_Exit(1);
 }
 
 bool Application::isDeferring() {

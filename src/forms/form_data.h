@@ -51,12 +51,12 @@ struct Look {
 /// One control that is a widget. Geometry in twips inside its container ("" is the form, "Picture1(0)" a
 /// member of an array).
 struct ControlData {
-  Kind kind;
-  const char* name;
-  int index;
-  const char* container;
-  int left, top, width, height;
-  int tab;
+  Kind kind = Kind::Label;
+  const char* name = "";
+  int index = 0;
+  const char* container = "";
+  int left = 0, top = 0, width = 0, height = 0;
+  int tab = 0;
   const char* text = "";
   Look look = {};
   const char* spokenName = "";  ///< for screen readers, where the text alone does not tell it
@@ -94,17 +94,17 @@ struct TimerData {
 
 /// A whole window. Inner size in twips.
 struct FormData {
-  const char* name;
-  const char* caption;
-  int width, height;
-  Color back;
-  Scale scale;
+  const char* name = "";
+  const char* caption = "";
+  int width = 0, height = 0;
+  Color back = kButtonFace;
+  Scale scale = Scale::Pixels;
   /// The program holds the size, so that the desktop is told to offer no other.
-  bool oneSize;
-  bool minimiseButton;
-  bool maximiseButton;
+  bool oneSize = false;
+  bool minimiseButton = false;
+  bool maximiseButton = false;
   /// The window belongs to another and has no entry of its own in the task bar.
-  bool owned;
+  bool owned = false;
   std::span<const ControlData> controls;
   std::span<const LineData> lines = {};
   std::span<const SliderData> sliders = {};

@@ -258,8 +258,8 @@ void FormWindow::unload() {
 void FormWindow::destroyLater(FormWindow* form) {
   // The last reference can go inside an event of one of the form's own widgets.
   if (QCoreApplication::instance() == nullptr) return;
-  QMetaObject::invokeMethod(
-      QCoreApplication::instance(), [form] { delete form; }, Qt::QueuedConnection);
+  const auto destroy = [form] { delete form; };
+  QMetaObject::invokeMethod(QCoreApplication::instance(), destroy, Qt::QueuedConnection);
 }
 
 }  // namespace forms

@@ -68,9 +68,9 @@ TextBox::TextBox(FormWindow& form, const ControlData& data)
 void TextBox::setText(const std::string& text) {
   if (text_ == text) return;
   text_ = text;
+  const auto syncNow = [this] { sync(); };
   if (!std::exchange(stale_, true) && widget()->isVisible())
-    QMetaObject::invokeMethod(
-        widget(), [this] { sync(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(widget(), syncNow, Qt::QueuedConnection);
   raise(onChange);
 }
 

@@ -35,7 +35,7 @@ WaitHook& waitHook() {
 void prepareSignals() {
   [[maybe_unused]] static const bool prepared = [] {
     signal(SIGPIPE, SIG_IGN);
-    struct sigaction reap {};
+    struct sigaction reap = {};
     reap.sa_handler = SIG_DFL;
     reap.sa_flags = SA_NOCLDWAIT;
     return sigaction(SIGCHLD, &reap, nullptr) == 0;
@@ -88,6 +88,7 @@ class StartPlan {
   /// Process id of the new child, -1 where there is none.
   [[nodiscard]] pid_t run(const Command& command) const {
     std::vector<char*> arguments;
+    arguments.reserve(command.arguments.size() + 1);
     for (const std::string& argument : command.arguments)
       arguments.push_back(const_cast<char*>(argument.c_str()));
     arguments.push_back(nullptr);

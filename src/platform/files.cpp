@@ -11,8 +11,8 @@
 namespace platform {
 
 bool sameFile(const std::string& one, const std::string& other) {
-  struct stat first {};
-  struct stat second {};
+  struct stat first = {};
+  struct stat second = {};
   return stat(one.c_str(), &first) == 0 && stat(other.c_str(), &second) == 0 &&
          first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }

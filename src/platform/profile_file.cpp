@@ -109,7 +109,7 @@ bool compose(std::string& text, std::string_view section, std::string_view key,
 struct Contents {
   bool exists = false;
   std::string text;
-  struct stat status {};
+  struct stat status = {};
 };
 
 /// Reads a regular file opened with `access`; one that does not exist is empty. Nothing on any failure, so

@@ -26,7 +26,6 @@ std::string folderAtStart() {
   std::error_code error;
   // The kernel keeps the name that exec was given: unlike the link in /proc, which is resolved, it shows the
   // symbolic links by which the program was started. It hands the address over as a number.
-  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   if (const auto* name = reinterpret_cast<const char*>(getauxval(AT_EXECFN)))
     file = std::filesystem::absolute(name, error);
   if (error || !sameFile(file.string(), own)) file = std::filesystem::read_symlink(own, error);

@@ -12,7 +12,7 @@ class RunnerVariable;
 class DOSOutputs {
  public:
   void setCommandLine(const std::string& DosCommand) { mCommand = DosCommand; }
-  std::string CommandLine() const { return mCommand; }
+  const std::string& CommandLine() const { return mCommand; }
   /// Everything that the last run that started has printed so far.
   const std::string& Outputs() const { return mOutputs; }
 

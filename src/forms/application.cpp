@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
+#include <QIcon>
 #include <QPointer>
 #include <QSettings>
 #include <QSocketNotifier>
@@ -13,47 +14,46 @@
 #include <utility>
 #include <vector>
 
-#include "forms/clipboard.h"
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {
 
 QApplication* application = nullptr;
-int waits = 0;
+bool waiting = false;
 bool ended = false;
 
-struct Held {
-  QPointer<QObject> object;
+struct Deferred {
+  const void* event;
   std::function<void()> action;
 };
 
-/// What came due inside a wait, at most one action for each object.
-std::vector<Held> held;
+std::vector<Deferred> deferred;
 
 class Wait : public QObject {
  public:
   Wait() {
-    ++waits;
-    QCoreApplication::instance()->installEventFilter(this);
+    waiting = true;
+    application->installEventFilter(this);
   }
   ~Wait() override {
+    waiting = false;
     for (auto& [window, key] : keys_)
       if (window) QCoreApplication::postEvent(window, key.release());
-    if (--waits > 0) return;
-    // Input that was held back would lie there until the desktop sends something new.
+    // The event loop would look at the input that it has left unserved only when the desktop sends more.
     QAbstractEventDispatcher::instance()->wakeUp();
-    for (const Held& due : std::exchange(held, {})) {
-      if (!due.object) continue;
-      const auto again = [due] { Application::whenServed(due.object, due.action); };
-      QMetaObject::invokeMethod(due.object, again, Qt::QueuedConnection);
+    for (const Deferred& due : std::exchange(deferred, {})) {
+      // The next wait can begin before the event loop gets here.
+      const auto again = [due] { Application::runOrDefer(due.event, due.action); };
+      QMetaObject::invokeMethod(application, again, Qt::QueuedConnection);
     }
   }
   Wait(const Wait&) = delete;
   Wait& operator=(const Wait&) = delete;
 
-  /// Where a screen reader listens, the toolkit asks it about each key and posts the key after the answer, so
-  /// that it does not count as input any more.
+  /// While a screen reader runs, Qt lets the accessibility bus see each key first and posts it to the window
+  /// after the answer. A posted event is no input to Qt, which would serve it inside the wait: it is kept
+  /// here until after that.
   bool eventFilter(QObject* watched, QEvent* event) override {
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
     if (!isKey || !watched->isWindowType()) return false;
@@ -65,6 +65,13 @@ class Wait : public QObject {
   std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> keys_;
 };
 
+QIcon windowIcon() {
+  QIcon icon;
+  for (const char* size : {"16x16", "32x32", "48x48"})
+    icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size));
+  return icon;
+}
+
 }  // namespace
 
 Application::Application() {
@@ -74,10 +81,11 @@ Application::Application() {
 
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_Use96Dpi);
-  // The file dialog would keep its own settings in the user's home; the program keeps none.
+  // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   application = new QApplication(count, arguments);
-  applyLook();
+  applyStyle();
+  QApplication::setWindowIcon(windowIcon());
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -114,30 +122,22 @@ void Application::waitPainting(int descriptor, int milliseconds) {
   while (!over) QCoreApplication::processEvents(kPaintOnly | QEventLoop::WaitForMoreEvents);
 }
 
-bool Application::holdsBack() {
-  return waits > 0 || ended;
+bool Application::isDeferring() {
+  return waiting || ended;
 }
 
-void Application::whenServed(QObject* object, const std::function<void()>& action) {
-  if (!holdsBack()) return action();
-  const bool known = std::ranges::any_of(held, [&](const Held& due) { return due.object == object; });
-  if (!known) held.push_back({object, action});
+void Application::runOrDefer(const void* event, const std::function<void()>& action) {
+  if (!isDeferring()) return action();
+  if (std::ranges::find(deferred, event, &Deferred::event) == deferred.end())
+    deferred.push_back({event, action});
 }
 
 void Application::end() {
   ended = true;
-  // The desktop asks a process for the text that it copied; on the way out it is handed to a clipboard
-  // manager.
+  // On X11 and Wayland a copied text lives in the process that copied it; at its end QApplication hands it to
+  // a clipboard manager.
   if (application != nullptr && QApplication::clipboard()->ownsClipboard()) delete application;
   std::_Exit(0);
-}
-
-void Clipboard::clear() {
-  QApplication::clipboard()->clear();
-}
-
-void Clipboard::setText(const std::string& text) {
-  QApplication::clipboard()->setText(toQt(text));
 }
 
 }  // namespace forms

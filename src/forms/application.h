@@ -3,8 +3,6 @@
 
 #include <functional>
 
-class QObject;
-
 namespace forms {
 
 /// The one connection to the desktop. Made once, before the first window; reads no command line.
@@ -23,15 +21,15 @@ class Application {
 
   /// Waits until `descriptor` has something to read or its other end is closed, at most `milliseconds`
   /// (negative: without limit; 0: serves what is pending). Meanwhile windows repaint and answer the desktop,
-  /// and input, timers and closing are held back.
+  /// while input waits, events of the program are deferred, and a window that is closed stays.
   static void waitPainting(int descriptor, int milliseconds);
 
   /// True inside `waitPainting` and once `end` has begun: no handler of the program may run.
-  static bool holdsBack();
+  static bool isDeferring();
 
-  /// Runs `action` at once or, where the program is held back, as an event of `object` that is served after
-  /// that; an object has one such event at most.
-  static void whenServed(QObject* object, const std::function<void()>& action);
+  /// Runs `action` at once or, while deferring, in the event loop after the wait; of several with the same
+  /// `event` the first alone.
+  static void runOrDefer(const void* event, const std::function<void()>& action);
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();

@@ -5,8 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "forms/application.h"
-#include "forms/look.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
@@ -17,8 +16,8 @@ QString literal(const std::string& caption) {
   return toQt(caption).replace("&", "&&");
 }
 
-/// Tab stops once in a group: at its choice, or anywhere where it has none. The widget toolkit itself sees to
-/// this only after the first visit.
+/// Tab stops once in a group: at its choice, or at each button where it has none. Qt leaves the stop to one
+/// button of a group by itself, but only once the focus has been there.
 void makeTabStops(const QButtonGroup& group) {
   const auto* choice = group.checkedButton();
   for (QAbstractButton* button : group.buttons())
@@ -38,10 +37,11 @@ class PushButton : public QPushButton {
 
 }  // namespace
 
-CommandButton::CommandButton(Form* form, const ControlData& data) : Control(form, data, new PushButton) {
-  setCaption(data.text != nullptr ? data.text : "");
+CommandButton::CommandButton(FormWindow& form, const ControlData& data)
+    : Control(form, data, new PushButton) {
+  setCaption(data.text);
   QObject::connect(static_cast<QPushButton*>(widget()), &QPushButton::clicked, widget(),
-                   [this] { raiseWhenServed(onClick); });
+                   [this] { raise(onClick); });
 }
 
 void CommandButton::setCaption(const std::string& caption) {
@@ -52,28 +52,22 @@ void CommandButton::setCaption(const std::string& caption) {
   button->setAccessibleName(toQt(caption).trimmed());
 }
 
-void CommandButton::adoptHandlers(const Control& other) {
-  Control::adoptHandlers(other);
-  onClick = static_cast<const CommandButton&>(other).onClick;
-}
-
-OptionButton::OptionButton(Form* form, const ControlData& data) : Control(form, data, new QRadioButton) {
+OptionButton::OptionButton(FormWindow& form, const ControlData& data)
+    : Control(form, data, new QRadioButton) {
   auto* button = static_cast<QRadioButton*>(widget());
-  button->setText(literal(data.text != nullptr ? data.text : ""));
+  button->setText(literal(data.text));
   button->setAutoFillBackground(true);
   button->setChecked(data.look.selected);
-  if (auto* surface = dynamic_cast<Surface*>(button->parentWidget())) {
-    QButtonGroup& group = surface->options();
-    group.addButton(button);
-    makeTabStops(group);
-    QObject::connect(button, &QRadioButton::toggled, button, [&group] { makeTabStops(group); });
-  }
-  // Of those chosen one after the other while the program is held back, the last one counts.
-  const auto clicked = [this] {
-    if (value()) raise(onClick);
+  // Without a group, Qt would take the buttons of inner containers for choices of the same one.
+  QButtonGroup& group = container().options();
+  group.addButton(button);
+  makeTabStops(group);
+  QObject::connect(button, &QRadioButton::toggled, button, [&group] { makeTabStops(group); });
+  // Of those that were chosen one after the other in a paint-only wait, the last one counts.
+  chosen_ = [this](int index) {
+    if (value() && onClick) onClick(index);
   };
-  QObject::connect(button, &QRadioButton::clicked, button,
-                   [button, clicked] { Application::whenServed(button, clicked); });
+  QObject::connect(button, &QRadioButton::clicked, button, [this] { raise(chosen_); });
 }
 
 bool OptionButton::value() const {
@@ -88,23 +82,17 @@ void OptionButton::setValue(bool value) {
     raise(onClick);
     return;
   }
-  // The widget refuses to leave its group without a choice.
-  QButtonGroup* group = button->group();
-  if (group != nullptr) group->setExclusive(false);
+  // Qt does not let an exclusive group go without a choice.
+  button->group()->setExclusive(false);
   button->setChecked(false);
-  if (group != nullptr) group->setExclusive(true);
+  button->group()->setExclusive(true);
 }
 
-void OptionButton::adoptHandlers(const Control& other) {
-  Control::adoptHandlers(other);
-  onClick = static_cast<const OptionButton&>(other).onClick;
-}
-
-CheckBox::CheckBox(Form* form, const ControlData& data) : Control(form, data, new QCheckBox) {
+CheckBox::CheckBox(FormWindow& form, const ControlData& data) : Control(form, data, new QCheckBox) {
   auto* box = static_cast<QCheckBox*>(widget());
-  box->setText(literal(data.text != nullptr ? data.text : ""));
+  box->setText(literal(data.text));
   box->setChecked(data.look.selected);
-  QObject::connect(box, &QCheckBox::clicked, box, [this] { raiseWhenServed(onClick); });
+  QObject::connect(box, &QCheckBox::clicked, box, [this] { raise(onClick); });
 }
 
 int CheckBox::value() const {

@@ -8,14 +8,12 @@ namespace forms {
 /// A push button; Space and Enter press it.
 class CommandButton : public Control {
  public:
-  CommandButton(Form* form, const ControlData& data);
+  CommandButton(FormWindow& form, const ControlData& data);
 
   const std::string& caption() const { return caption_; }
   void setCaption(const std::string& caption);
 
   Event onClick;
-
-  void adoptHandlers(const Control& other) override;
 
  private:
   std::string caption_;
@@ -25,20 +23,21 @@ class CommandButton : public Control {
 /// where the button was not selected; assigning False empties the group and raises nothing.
 class OptionButton : public Control {
  public:
-  OptionButton(Form* form, const ControlData& data);
+  OptionButton(FormWindow& form, const ControlData& data);
 
   bool value() const;
   void setValue(bool value);
 
   Event onClick;
 
-  void adoptHandlers(const Control& other) override;
+ private:
+  Event chosen_;
 };
 
 /// A box that is checked (1) or not (0).
 class CheckBox : public Control {
  public:
-  CheckBox(Form* form, const ControlData& data);
+  CheckBox(FormWindow& form, const ControlData& data);
 
   int value() const;
 

@@ -10,8 +10,8 @@
 #include <QPointer>
 #include <QTreeView>
 
-#include "forms/form.h"
-#include "forms/look.h"
+#include "forms/form_window.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
@@ -74,9 +74,9 @@ QStringList nameFilters(const QString& pairs) {
 }  // namespace
 
 void CommonDialog::show(bool save) {
-  const auto alive = form()->shared_from_this();
+  const auto alive = form().shared_from_this();
   const QPointer<QWidget> before = QApplication::activeWindow();
-  NameDialog dialog(form()->surface("")->window());
+  NameDialog dialog(&form().surface(""));
   dialog.setWindowTitle(toQt(title_));
   // In its own mode for saving the dialog would change the typed name with the filter.
   dialog.setAcceptMode(QFileDialog::AcceptOpen);

@@ -11,7 +11,7 @@ namespace forms {
 /// is asked before an existing file is named, and a typed name is taken as it stands. Texts in UTF-8.
 class CommonDialog : public Item {
  public:
-  explicit CommonDialog(Form* form) : Item(form, kSingle) {}
+  explicit CommonDialog(FormWindow& form) : Item(form, kSingle) {}
 
   /// Absolute path that was chosen; a Cancel leaves what it was when the dialog was asked.
   const std::string& fileName() const { return fileName_; }
@@ -22,9 +22,6 @@ class CommonDialog : public Item {
   /// The pair that is chosen at first, counted from 1.
   void setFilterIndex(int index) { filterIndex_ = index; }
   void setInitDir(const std::string& folder) { initDir_ = folder; }
-  /// True: a Cancel is a failure of the call, and failures pass in silence here, so that both come to the
-  /// same.
-  void setCancelError(bool /*cancelError*/) {}
 
   /// Show the dialog and return when it is closed.
   void showOpen() { show(false); }

@@ -5,62 +5,71 @@
 #include <QPalette>
 #include <QWidget>
 
-#include "forms/application.h"
-#include "forms/form.h"
-#include "forms/look.h"
-#include "forms/mouse_filter.h"
+#include "forms/form_window.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
 
 void Item::raise(const Event& event) const {
-  if (!event || form_ == nullptr || !form_->isLoaded() || Application::holdsBack()) return;
-  const auto alive = form_->shared_from_this();
-  event(index_ == kSingle ? 0 : index_);
+  form_.raise(&event, [this, &event](bool deferred) {
+    if (event && (enabled() || !deferred)) event(index_ == kSingle ? 0 : index_);
+  });
 }
 
-void MouseFilter::watch(QWidget* widget) {
-  widget->setMouseTracking(true);
-  widget->setAttribute(Qt::WA_NoMousePropagation);
-  widget->installEventFilter(this);
-}
+/// Lets a control own all mouse events over its widgets: none goes on to its container.
+class MouseFilter : public QObject {
+ public:
+  /// With `consumes` the widgets get no mouse event of their own.
+  MouseFilter(Control& control, bool consumes)
+      : QObject(control.widget()), control_(control), consumes_(consumes) {}
 
-bool MouseFilter::eventFilter(QObject* /*watched*/, QEvent* event) {
-  switch (event->type()) {
-    case QEvent::MouseMove:
-      control_.raise(control_.onMouseMove);
-      return consumes_;
-    case QEvent::MouseButtonRelease:
-      control_.raise(control_.onMouseUp);
-      return consumes_;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-      return consumes_;
-    default:
-      return false;
+  void watch(QWidget* widget) {
+    widget->setMouseTracking(true);
+    widget->setAttribute(Qt::WA_NoMousePropagation);
+    widget->installEventFilter(this);
   }
-}
 
-Control::Control(Form* form, const ControlData& data, QWidget* widget)
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::MouseMove:
+        control_.raise(control_.onMouseMove);
+        return consumes_;
+      case QEvent::MouseButtonRelease:
+        control_.raise(control_.onMouseUp);
+        return consumes_;
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonDblClick:
+        return consumes_;
+      default:
+        return false;
+    }
+  }
+
+ private:
+  Control& control_;
+  bool consumes_;
+};
+
+Control::Control(FormWindow& form, const ControlData& data, QWidget* widget)
     : Item(form, data.index),
       widget_(widget),
-      filter_(new MouseFilter(*this, data.kind == Kind::Label || data.kind == Kind::PictureBox)),
+      container_(form.surface(data.container)),
       back_(data.look.back),
-      fore_(data.look.fore),
-      fontSize_(data.look.fontSize) {
-  filter_->watch(widget);
-  if (auto* scrolled = qobject_cast<QAbstractScrollArea*>(widget)) filter_->watch(scrolled->viewport());
-  if (form == nullptr) return;
-  container_ = form->surface(data.container);
-  const double scale = container_->unitsPerPixel() / kTwipsPerPixel;
+      fore_(data.look.fore) {
+  auto* filter = new MouseFilter(*this, data.kind == Kind::Label || data.kind == Kind::PictureBox);
+  filter->watch(widget);
+  if (auto* scrolled = qobject_cast<QAbstractScrollArea*>(widget)) filter->watch(scrolled->viewport());
+  const double scale = container_.unitsPerPixel() / kTwipsPerPixel;
   left_ = data.left * scale;
   top_ = data.top * scale;
   width_ = data.width * scale;
   height_ = data.height * scale;
   widget->setObjectName(data.index == kSingle ? QString(data.name)
                                               : QString("%1(%2)").arg(data.name).arg(data.index));
-  if (fontSize_ != Look{}.fontSize || data.look.bold) widget->setFont(fontOf(fontSize_, data.look.bold));
-  widget->setParent(container_);
+  if (data.look.fontSize != Look{}.fontSize || data.look.bold)
+    widget->setFont(fontOf(data.look.fontSize, data.look.bold));
+  widget->setParent(&container_);
   if (*data.spokenName != '\0') widget->setAccessibleName(data.spokenName);
   place();
   setVisible(!data.look.hidden);
@@ -68,29 +77,13 @@ Control::Control(Form* form, const ControlData& data, QWidget* widget)
   applyColors();
 }
 
-Control::~Control() {
-  delete filter_;
-  if (container_ == nullptr) delete widget_;
-}
-
-void Control::raiseWhenServed(const Event& event) {
-  Application::whenServed(widget_, [this, &event] {
-    if (enabled()) raise(event);
-  });
-}
-
-double Control::unitsPerPixel() const {
-  return container_ != nullptr ? container_->unitsPerPixel() : 1;
-}
-
 void Control::place() {
-  if (container_ == nullptr) return;
-  const double pixel = 1 / unitsPerPixel();
-  const int border = container_->border();
+  const double pixel = 1 / container_.unitsPerPixel();
+  const int border = container_.border();
   QRect extent = QRectF(left_ * pixel, top_ * pixel, width_ * pixel, height_ * pixel).toRect();
   extent.translate(border, border);
   // A control as wide as its box would cover the border.
-  if (border > 0) extent &= container_->rect().adjusted(border, border, -border, -border);
+  if (border > 0) extent &= container_.rect().adjusted(border, border, -border, -border);
   widget_->setGeometry(extent);
 }
 
@@ -127,7 +120,7 @@ void Control::setHeight(double height) {
 
 void Control::setVisible(bool visible) {
   visible_ = visible;
-  if (container_ != nullptr) widget_->setVisible(visible);
+  widget_->setVisible(visible);
 }
 
 bool Control::enabled() const {
@@ -156,7 +149,7 @@ void Control::applyColors() {
   const QColor fore = toQt(fore_);
   const bool takesText = widget_->inherits("QLineEdit") || widget_->inherits("QPlainTextEdit");
   const auto ground = takesText ? QPalette::Base : widget_->backgroundRole();
-  // What a control takes over from its container anyway need not be set again.
+  // Qt resolves the palettes of a whole tree at each set: what a widget inherits anyway is left alone.
   if (palette.color(ground) == back && palette.color(QPalette::Active, QPalette::WindowText) == fore) return;
   palette.setColor(ground, back);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
@@ -167,8 +160,7 @@ void Control::applyColors() {
 }
 
 void Control::setFontSize(double points) {
-  if (fontSize_ == points) return;
-  fontSize_ = points;
+  if (widget_->font().pointSizeF() == points) return;
   widget_->setFont(fontOf(points, widget_->font().bold()));
   refit();
 }
@@ -176,7 +168,7 @@ void Control::setFontSize(double points) {
 void Control::setToolTipText(const std::string& text) {
   if (toolTip_ == text) return;
   toolTip_ = text;
-  // A tool tip takes markup where it sees some; written as markup, any text shows as it is.
+  // Qt takes a tool tip for markup where it looks like it; written as markup, any text shows as it is.
   const QString plain = toQt(text).toHtmlEscaped();
   widget_->setToolTip(plain.isEmpty() ? plain : "<p style='white-space:pre'>" + plain + "</p>");
 }
@@ -186,12 +178,7 @@ void Control::setFocus() {
 }
 
 void Control::zOrder() {
-  if (container_ != nullptr) widget_->raise();
-}
-
-void Control::adoptHandlers(const Control& other) {
-  onMouseMove = other.onMouseMove;
-  onMouseUp = other.onMouseUp;
+  widget_->raise();
 }
 
 }  // namespace forms

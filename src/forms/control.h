@@ -10,30 +10,31 @@ class QWidget;
 
 namespace forms {
 
-class Form;
-class MouseFilter;
+class FormWindow;
 class Surface;
 
 /// A handler of an event; it gets the index of the control in its array, 0 for a control that is in none.
 using Event = std::function<void(int index)>;
 
-/// Whatever stands on a form, visible or not.
+/// Whatever stands on a form, visible or not. Lives as long as its form.
 class Item {
  public:
-  Item(Form* form, int index) : form_(form), index_(index) {}
+  Item(FormWindow& form, int index) : form_(form), index_(index) {}
   virtual ~Item() = default;
   Item(const Item&) = delete;
   Item& operator=(const Item&) = delete;
 
   int index() const { return index_; }
-  Form* form() const { return form_; }
+  virtual bool enabled() const { return true; }
 
  protected:
-  /// Runs the handler while the form stays alive; nothing happens on a form that is not loaded.
+  /// Runs the handler while the form stays alive; nothing happens on a form that is not loaded. In a
+  /// paint-only wait it is deferred, and dropped where the item is disabled by the time its turn comes.
   void raise(const Event& event) const;
+  FormWindow& form() const { return form_; }
 
  private:
-  Form* form_;
+  FormWindow& form_;
   int index_;
 };
 
@@ -41,8 +42,6 @@ class Item {
 /// height changes nothing. `Visible` is the control's own flag, whether or not its window shows.
 class Control : public Item {
  public:
-  ~Control() override;
-
   double left() const { return left_; }
   double top() const { return top_; }
   double width() const { return width_; }
@@ -54,7 +53,7 @@ class Control : public Item {
 
   bool visible() const { return visible_; }
   void setVisible(bool visible);
-  bool enabled() const;
+  bool enabled() const override;
   void setEnabled(bool enabled);
   Color foreColor() const { return fore_; }
   void setForeColor(Color color);
@@ -73,21 +72,14 @@ class Control : public Item {
 
   QWidget* widget() const { return widget_; }
 
-  /// Takes the handlers of another member of the same array.
-  virtual void adoptHandlers(const Control& other);
-
  protected:
-  /// Takes over `widget` and puts it into the container of `data`; `form` is null for a control that stands
-  /// nowhere.
-  Control(Form* form, const ControlData& data, QWidget* widget);
+  /// Puts `widget`, which goes over to the form, into the container of `data`.
+  Control(FormWindow& form, const ControlData& data, QWidget* widget);
 
-  /// Raises `event` at once or, where the program is held back, as soon as it is served, unless the control
-  /// is disabled by then: for what a person has done already.
-  void raiseWhenServed(const Event& event);
   /// Called when size, text or font have changed.
   virtual void refit() {}
   void setExtent(double left, double width, double height);
-  double unitsPerPixel() const;
+  Surface& container() const { return container_; }
 
  private:
   friend class MouseFilter;
@@ -95,12 +87,10 @@ class Control : public Item {
   void applyColors();
 
   QWidget* widget_;
-  MouseFilter* filter_;
-  Surface* container_ = nullptr;
-  double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+  Surface& container_;
+  double left_, top_, width_, height_;
   bool visible_ = true;
   Color back_, fore_;
-  double fontSize_;
   std::string toolTip_;
 };
 

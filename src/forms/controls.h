@@ -3,7 +3,6 @@
 
 #include "forms/buttons.h"
 #include "forms/common_dialog.h"
-#include "forms/control_array.h"
 #include "forms/label.h"
 #include "forms/line.h"
 #include "forms/picture_box.h"

@@ -1,183 +1,129 @@
 #include "forms/form.h"
 
-#include <QCoreApplication>
-#include <QIcon>
-#include <algorithm>
+#include <cassert>
 #include <string_view>
 
-#include "forms/application.h"
 #include "forms/controls.h"
-#include "forms/form_surface.h"
-#include "forms/look.h"
-#include "forms/make_control.h"
+#include "forms/surface.h"
 
 namespace forms {
+namespace {
 
-Form::Form(const FormData& data)
-    : data_(data),
-      window_(std::make_unique<FormSurface>(*this, data)),
-      outerWidth_(window_->outerSize().width() * kTwipsPerPixel),
-      outerHeight_(window_->outerSize().height() * kTwipsPerPixel) {
-  setCaption(data.caption);
-  if (data.icon != nullptr) setIcon(Icon(data.icon));
-  for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, row));
-  for (const LineData& row : data.lines) put(row.name, row.index, std::make_unique<Line>(this, row));
-  for (const TimerData& row : data.timers) put(row.name, kSingle, std::make_unique<Timer>(this, row));
-  if (data.commonDialog != nullptr) put(data.commonDialog, kSingle, std::make_unique<CommonDialog>(this));
-  makeTabOrder(data.controls);
+const char* const kSpares = "Spares";
+
+std::size_t slot(int index) {
+  return static_cast<std::size_t>(std::max(index, 0));
 }
 
-Form::~Form() {
-  items_.clear();
-  window_.reset();
+QWidget* widgetOf(const Item& item) {
+  return static_cast<const Control&>(item).widget();
+}
+
+std::unique_ptr<Control> makeSlider(Form& form, const FormData& data, const ControlData& row) {
+  const auto named = [&](const SliderData& slider) { return std::string_view(slider.name) == row.name; };
+  const auto values = std::ranges::find_if(data.sliders, named);
+  assert(values != data.sliders.end());
+  return std::make_unique<Slider>(form, row, *values);
+}
+
+std::unique_ptr<Control> makeControl(Form& form, const FormData& data, const ControlData& row) {
+  switch (row.kind) {
+    case Kind::PictureBox:
+      return std::make_unique<PictureBox>(form, row);
+    case Kind::Label:
+      return std::make_unique<Label>(form, row);
+    case Kind::Shape:
+      return std::make_unique<Shape>(form, row);
+    case Kind::TextBox:
+    case Kind::MultiLineTextBox:
+      return std::make_unique<TextBox>(form, row);
+    case Kind::CommandButton:
+      return std::make_unique<CommandButton>(form, row);
+    case Kind::OptionButton:
+      return std::make_unique<OptionButton>(form, row);
+    case Kind::CheckBox:
+      return std::make_unique<CheckBox>(form, row);
+    case Kind::Slider:
+      return makeSlider(form, data, row);
+    case Kind::ProgressBar:
+      return std::make_unique<ProgressBar>(form, row);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Form::Form(const FormData& data) : FormWindow(data), data_(data) {
+  for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, data, row));
+  for (const LineData& row : data.lines) put(row.name, row.index, std::make_unique<Line>(*this, row));
+  for (const TimerData& row : data.timers) put(row.name, kSingle, std::make_unique<Timer>(*this, row));
+  if (data.commonDialog != nullptr) put(data.commonDialog, kSingle, std::make_unique<CommonDialog>(*this));
+  makeTabOrder();
 }
 
 void Form::put(const char* name, int index, std::unique_ptr<Item> item) {
   Items& items = items_[name];
-  const auto place = static_cast<std::size_t>(std::max(index, 0));
-  if (items.size() <= place) items.resize(place + 1);
-  items[place] = std::move(item);
+  if (items.size() <= slot(index)) items.resize(slot(index) + 1);
+  items[slot(index)] = std::move(item);
 }
 
-void Form::makeTabOrder(std::span<const ControlData> controls) {
+void Form::makeTabOrder() {
   std::vector<const ControlData*> rows;
-  for (const ControlData& row : controls)
+  for (const ControlData& row : data_.controls)
     if (row.tab >= 0) rows.push_back(&row);
   std::ranges::sort(rows, {}, &ControlData::tab);
   QWidget* previous = nullptr;
   for (const ControlData* row : rows) {
-    const auto place = static_cast<std::size_t>(std::max(row->index, 0));
-    QWidget* next = static_cast<Control&>(*items(row->name)[place]).widget();
+    QWidget* next = widgetOf(*items_[row->name][slot(row->index)]);
     if (next->focusPolicy() == Qt::NoFocus) continue;
     if (previous != nullptr) QWidget::setTabOrder(previous, next);
     previous = next;
   }
 }
 
+/// A hidden control, or a line, like member 0 of its array; with null, in the same container.
+std::unique_ptr<Item> Form::makeLikeFirst(const char* name, int index, const char* container) {
+  const auto isFirst = [name](const auto& row) {
+    return row.index == 0 && std::string_view(row.name) == name;
+  };
+  if (const auto first = std::ranges::find_if(data_.controls, isFirst); first != data_.controls.end()) {
+    ControlData row = *first;
+    row.index = index;
+    row.look.hidden = true;
+    if (container != nullptr) row.container = container;
+    return makeControl(*this, data_, row);
+  }
+  LineData row = *std::ranges::find_if(data_.lines, isFirst);
+  row.index = index;
+  if (container != nullptr) row.container = container;
+  return std::make_unique<Line>(*this, row);
+}
+
 void Form::loadMember(const char* name, int index) {
-  for (const ControlData& row : data_.controls) {
-    if (row.index != 0 || std::string_view(row.name) != name) continue;
-    ControlData member = row;
-    member.index = index;
-    member.look.hidden = true;
-    Items& made = items(name);
-    put(name, index, makeControl(*this, member));
-    // The keyboard finds the new member right behind the one before it.
-    for (auto before = static_cast<std::size_t>(index); before-- > 0;) {
-      if (!made[before]) continue;
-      QWidget::setTabOrder(static_cast<Control&>(*made[before]).widget(),
-                           static_cast<Control&>(*made[static_cast<std::size_t>(index)]).widget());
-      break;
-    }
+  put(name, index, makeLikeFirst(name, index, nullptr));
+  const Items& members = items_[name];
+  const auto* made = dynamic_cast<const Control*>(members[slot(index)].get());
+  if (made == nullptr) return;
+  // Qt puts a new widget at the end of the tab order; the keyboard is to find it right behind its neighbour.
+  std::size_t before = slot(index) - 1;
+  while (members[before] == nullptr) --before;
+  QWidget::setTabOrder(widgetOf(*members[before]), made->widget());
+}
+
+/// Makes what an unknown index gives. It stands on a hidden surface of its own, so that the groups of the
+/// real option buttons never have it for a member, and disabled, so that it never takes the focus.
+Item& Form::spare(const char* name) {
+  assert(false && "an array has no member of this index");
+  if (spares_.empty()) {
+    auto* nowhere = new Surface(false, Scale::Pixels);
+    nowhere->setObjectName(kSpares);
+    nowhere->setEnabled(false);
+    nowhere->setParent(&surface(""));
+    nowhere->hide();
   }
-  for (const LineData& row : data_.lines) {
-    if (row.index != 0 || std::string_view(row.name) != name) continue;
-    LineData member = row;
-    member.index = index;
-    put(name, index, std::make_unique<Line>(this, member));
-  }
-}
-
-const SliderData* Form::sliderData(const char* name) const {
-  const auto row = std::ranges::find_if(
-      data_.sliders, [&](const SliderData& slider) { return std::string_view(slider.name) == name; });
-  return row != data_.sliders.end() ? &*row : nullptr;
-}
-
-Surface* Form::surface(const char* container) {
-  if (*container == '\0') return window_.get();
-  auto* found = dynamic_cast<Surface*>(window_->findChild<QWidget*>(container));
-  return found != nullptr ? found : window_.get();
-}
-
-void Form::setCaption(const std::string& caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  window_->setWindowTitle(toQt(caption));
-}
-
-void Form::setIcon(const Icon& icon) {
-  icon_ = icon;
-  if (icon.picture() != nullptr) window_->setWindowIcon(*icon.picture());
-}
-
-double Form::width() const {
-  return outerWidth_;
-}
-
-double Form::height() const {
-  return outerHeight_;
-}
-
-double Form::scaleWidth() const {
-  return window_->width() * window_->unitsPerPixel();
-}
-
-double Form::scaleHeight() const {
-  return window_->height() * window_->unitsPerPixel();
-}
-
-bool Form::minimised() const {
-  return window_->isMinimized();
-}
-
-void Form::setWidth(double twips) {
-  if (!(twips > 0) || minimised() || twips == outerWidth_) return;
-  outerWidth_ = twips;
-  window_->applyOuterSize();
-}
-
-void Form::setHeight(double twips) {
-  if (!(twips > 0) || minimised() || twips == outerHeight_) return;
-  outerHeight_ = twips;
-  window_->applyOuterSize();
-}
-
-void Form::takeOuterSize(double width, double height) {
-  outerWidth_ = width;
-  outerHeight_ = height;
-  raise(onResize);
-}
-
-void Form::raise(const std::function<void()>& event) {
-  if (!event || !loaded_ || Application::holdsBack()) return;
-  const auto alive = shared_from_this();
-  event();
-}
-
-void Form::load(std::function<void()> forget) {
-  forget_ = std::move(forget);
-  loaded_ = true;
-  raise(onLoad);
-}
-
-void Form::show(const Form* owner) {
-  if (!loaded_) return;
-  if (!window_->isVisible()) {
-    window_->standBeside(owner != nullptr ? owner->window_.get() : nullptr);
-    raise(onResize);
-    if (!loaded_) return;
-  }
-  window_->bringForward();
-}
-
-void Form::unload() {
-  if (!loaded_ || unloading_) return;
-  unloading_ = true;
-  const auto alive = shared_from_this();
-  raise(onQueryUnload);
-  raise(onUnload);
-  raise(onTerminate);
-  loaded_ = false;
-  window_->hide();
-  forget_();
-}
-
-void Form::destroyLater(Form* form) {
-  // The last reference can go inside an event of one of the form's own widgets.
-  if (QCoreApplication::instance() == nullptr) return;
-  QMetaObject::invokeMethod(
-      QCoreApplication::instance(), [form] { delete form; }, Qt::QueuedConnection);
+  std::unique_ptr<Item>& made = spares_[name];
+  if (!made) made = makeLikeFirst(name, kSingle, kSpares);
+  return *made;
 }
 
 }  // namespace forms

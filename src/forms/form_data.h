@@ -57,7 +57,7 @@ struct ControlData {
   const char* container;
   int left, top, width, height;
   int tab;
-  const char* text;
+  const char* text = "";
   Look look = {};
   const char* spokenName = "";  ///< for screen readers, where the text alone does not tell it
 };
@@ -98,8 +98,6 @@ struct FormData {
   const char* caption;
   int width, height;
   Color back;
-  /// Built-in picture, null for a window that starts without an icon.
-  const char* icon;
   Scale scale;
   /// The program holds the size, so that the desktop is told to offer no other.
   bool oneSize;

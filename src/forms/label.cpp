@@ -5,13 +5,13 @@
 #include <QPalette>
 #include <cmath>
 
-#include "forms/look.h"
+#include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
 namespace {
 
-Qt::Alignment toQt(Alignment alignment) {
+Qt::Alignment qtAlignment(Alignment alignment) {
   switch (alignment) {
     case Alignment::Right:
       return Qt::AlignRight | Qt::AlignVCenter;
@@ -42,27 +42,23 @@ class Outline : public QWidget {
 
 }  // namespace
 
-Label::Label(Form* form, const ControlData& data)
-    : Control(form, data, makeLabel()),
-      alignment_(data.look.alignment),
-      autoSize_(data.look.autoSize),
-      elided_(data.look.elided) {
-  static_cast<QLabel*>(widget())->setAlignment(toQt(alignment_));
+Label::Label(FormWindow& form, const ControlData& data)
+    : Control(form, data, makeLabel()), autoSize_(data.look.autoSize), elided_(data.look.elided) {
+  setAlignment(data.look.alignment);
   setTransparent(data.look.transparent);
-  setCaption(data.text != nullptr ? data.text : "");
+  setCaption(data.text);
 }
 
 void Label::setCaption(const std::string& caption) {
   if (caption_ == caption) return;
   caption_ = caption;
-  widget()->setAccessibleName(forms::toQt(caption));
+  widget()->setAccessibleName(toQt(caption));
   refit();
 }
 
 void Label::setAlignment(Alignment alignment) {
-  if (alignment_ == alignment) return;
   alignment_ = alignment;
-  static_cast<QLabel*>(widget())->setAlignment(toQt(alignment));
+  static_cast<QLabel*>(widget())->setAlignment(qtAlignment(alignment));
 }
 
 void Label::setAutoSize(bool autoSize) {
@@ -77,19 +73,19 @@ void Label::setTransparent(bool transparent) {
 
 void Label::refit() {
   auto* label = static_cast<QLabel*>(widget());
-  const QString text = forms::toQt(caption_);
+  const QString text = toQt(caption_);
   label->setText(elided_ ? label->fontMetrics().elidedText(text, Qt::ElideMiddle, label->width()) : text);
   if (autoSize_) fitToText();
 }
 
 void Label::fitToText() {
   const QFontMetricsF metrics(widget()->font());
-  const double needed = std::ceil(metrics.horizontalAdvance(forms::toQt(caption_))) * unitsPerPixel();
+  const double needed = std::ceil(metrics.horizontalAdvance(toQt(caption_))) * container().unitsPerPixel();
   const double shares[] = {0, 1, 0.5};
   const double shift = (width() - needed) * shares[static_cast<int>(alignment_)];
-  setExtent(left() + shift, needed, std::ceil(metrics.height()) * unitsPerPixel());
+  setExtent(left() + shift, needed, std::ceil(metrics.height()) * container().unitsPerPixel());
 }
 
-Shape::Shape(Form* form, const ControlData& data) : Control(form, data, new Outline) {}
+Shape::Shape(FormWindow& form, const ControlData& data) : Control(form, data, new Outline) {}
 
 }  // namespace forms

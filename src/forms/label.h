@@ -9,7 +9,7 @@ namespace forms {
 /// names.
 class Label final : public Control {
  public:
-  Label(Form* form, const ControlData& data);
+  Label(FormWindow& form, const ControlData& data);
 
   const std::string& caption() const { return caption_; }
   void setCaption(const std::string& caption);
@@ -25,7 +25,7 @@ class Label final : public Control {
   void fitToText();
 
   std::string caption_;
-  Alignment alignment_;
+  Alignment alignment_ = Alignment::Left;
   bool autoSize_;
   bool elided_;
 };
@@ -33,7 +33,7 @@ class Label final : public Control {
 /// The outline of its extent. It is no target for the mouse.
 class Shape : public Control {
  public:
-  Shape(Form* form, const ControlData& data);
+  Shape(FormWindow& form, const ControlData& data);
 };
 
 }  // namespace forms

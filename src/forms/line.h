@@ -2,46 +2,41 @@
 #pragma once
 
 #include "forms/control.h"
-
-class QPainter;
+#include "forms/drawn_line.h"
 
 namespace forms {
 
-/// Ends count in the container's scale, with fractions; `borderWidth` is in pixels.
+/// Ends count in the container's scale, with fractions; `borderWidth` is in pixels. A line has no events.
 class Line : public Item {
  public:
-  Line(Form* form, const LineData& data);
-  ~Line() override;
+  Line(FormWindow& form, const LineData& data);
 
-  double x1() const { return ends_[0]; }
-  double y1() const { return ends_[1]; }
-  double x2() const { return ends_[2]; }
-  double y2() const { return ends_[3]; }
-  void setX1(double value) { move(0, value); }
-  void setY1(double value) { move(1, value); }
-  void setX2(double value) { move(2, value); }
-  void setY2(double value) { move(3, value); }
-  Color borderColor() const { return color_; }
-  void setBorderColor(Color color);
-  int borderWidth() const { return borderWidth_; }
-  void setBorderWidth(int pixels);
-  bool visible() const { return visible_; }
-  void setVisible(bool visible);
-
-  void paint(QPainter& painter) const;
-
-  /// A line has no events.
-  void adoptHandlers(const Line& /*other*/) {}
+  double x1() const { return line_.x1; }
+  double y1() const { return line_.y1; }
+  double x2() const { return line_.x2; }
+  double y2() const { return line_.y2; }
+  void setX1(double value) { set(line_.x1, value); }
+  void setY1(double value) { set(line_.y1, value); }
+  void setX2(double value) { set(line_.x2, value); }
+  void setY2(double value) { set(line_.y2, value); }
+  Color borderColor() const { return line_.color; }
+  void setBorderColor(Color color) { set(line_.color, color); }
+  void setBorderWidth(int pixels) { set(line_.width, pixels); }
+  bool visible() const { return line_.visible; }
+  void setVisible(bool visible) { set(line_.visible, visible); }
 
  private:
-  void move(int end, double value);
-  void repaint() const;
+  template <class Value>
+  void set(Value& property, Value value) {
+    if (property == value) return;
+    repaint();
+    property = value;
+    repaint();
+  }
+  void repaint();
 
-  Surface* container_;
-  double ends_[4];
-  Color color_;
-  int borderWidth_;
-  bool visible_ = true;
+  Surface& surface_;
+  DrawnLine& line_;
 };
 
 }  // namespace forms

@@ -4,17 +4,15 @@
 
 namespace forms {
 
-PictureBox::PictureBox(Form* form, const ControlData& data)
-    : Control(form, data, new Surface(nullptr, data.look.border, data.look.scale)) {}
+PictureBox::PictureBox(FormWindow& form, const ControlData& data)
+    : Control(form, data, new Surface(data.look.border, data.look.scale)) {}
 
 double PictureBox::scaleWidth() const {
-  const auto* surface = static_cast<const Surface*>(widget());
-  return (surface->width() - 2 * surface->border()) * surface->unitsPerPixel();
+  return static_cast<const Surface*>(widget())->scaleWidth();
 }
 
 double PictureBox::scaleHeight() const {
-  const auto* surface = static_cast<const Surface*>(widget());
-  return (surface->height() - 2 * surface->border()) * surface->unitsPerPixel();
+  return static_cast<const Surface*>(widget())->scaleHeight();
 }
 
 }  // namespace forms

@@ -7,7 +7,7 @@ namespace forms {
 
 class PictureBox : public Control {
  public:
-  PictureBox(Form* form, const ControlData& data);
+  PictureBox(FormWindow& form, const ControlData& data);
 
   /// Size inside the border, in the box's own scale.
   double scaleWidth() const;

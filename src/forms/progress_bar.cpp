@@ -5,7 +5,7 @@
 
 namespace forms {
 
-ProgressBar::ProgressBar(Form* form, const ControlData& data) : Control(form, data, new QProgressBar) {
+ProgressBar::ProgressBar(FormWindow& form, const ControlData& data) : Control(form, data, new QProgressBar) {
   auto* bar = static_cast<QProgressBar*>(widget());
   bar->setTextVisible(false);
   bar->setRange(0, 100);

@@ -8,7 +8,7 @@ namespace forms {
 /// Starts at 0 of 0 to 100. A value outside `Min`..`Max` and a `Max` not above `Min` change nothing.
 class ProgressBar : public Control {
  public:
-  ProgressBar(Form* form, const ControlData& data);
+  ProgressBar(FormWindow& form, const ControlData& data);
 
   double value() const { return value_; }
   void setValue(double value);

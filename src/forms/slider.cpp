@@ -4,22 +4,31 @@
 #include <QSlider>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
-#include "forms/application.h"
-#include "forms/form.h"
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {
 
-/// One notch of a wheel, in eighths of a degree (the widget toolkit's measure).
+/// One notch of a wheel, in eighths of a degree (Qt's measure).
 constexpr int kNotch = 120;
+
+QAccessibleInterface* makeSpokenSlider(const QString& kind, QObject* object);
 
 class SliderWidget : public QSlider {
  public:
-  SliderWidget(Slider& owner, Qt::Orientation orientation) : QSlider(orientation), owner_(owner) {}
+  explicit SliderWidget(const SliderData& values)
+      : QSlider(values.vertical ? Qt::Vertical : Qt::Horizontal), spokenFactor_(values.spokenFactor) {
+    // Qt asks for the interface of a widget at its first property that a screen reader is told of, and keeps
+    // the one that it then gets.
+    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenSlider), true);
+    setInvertedAppearance(values.vertical);
+    setInvertedControls(values.vertical);
+  }
 
-  const Slider& owner() const { return owner_; }
+  double spokenFactor() const { return spokenFactor_; }
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
@@ -34,7 +43,7 @@ class SliderWidget : public QSlider {
   }
 
  private:
-  Slider& owner_;
+  double spokenFactor_;
   int turnedSoFar_ = 0;
 };
 
@@ -49,7 +58,7 @@ class SpokenSlider : public QAccessibleWidget, public QAccessibleValueInterface 
     return QAccessibleWidget::interface_cast(type);
   }
   // Adding nothing turns a negative zero into a plain one.
-  QVariant currentValue() const override { return slider_->owner().spokenValue() + 0.0; }
+  QVariant currentValue() const override { return slider_->value() * factor() + 0.0; }
   void setCurrentValue(const QVariant& value) override {
     slider_->setValue(qRound(value.toDouble() / factor()));
   }
@@ -58,7 +67,7 @@ class SpokenSlider : public QAccessibleWidget, public QAccessibleValueInterface 
   QVariant minimumStepSize() const override { return std::abs(factor()); }
 
  private:
-  double factor() const { return slider_->owner().spokenFactor(); }
+  double factor() const { return slider_->spokenFactor(); }
   std::pair<double, double> ends() const {
     return {slider_->minimum() * factor(), slider_->maximum() * factor()};
   }
@@ -71,68 +80,49 @@ QAccessibleInterface* makeSpokenSlider(const QString& /*kind*/, QObject* object)
   return slider != nullptr ? new SpokenSlider(slider) : nullptr;
 }
 
-SliderWidget* makeSlider(Slider& owner, bool vertical) {
-  // Before the first name: a screen reader is told of it at once, and keeps what it then sees.
-  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenSlider), true);
-  return new SliderWidget(owner, vertical ? Qt::Vertical : Qt::Horizontal);
-}
-
-const SliderData& dataOf(const Form* form, const ControlData& data) {
-  static constexpr SliderData kPlain{"", false, 0, 10, 5, 1, 1, 0, 1, ""};
-  const SliderData* found = form != nullptr ? form->sliderData(data.name) : nullptr;
-  return found != nullptr ? *found : kPlain;
-}
-
 }  // namespace
 
-Slider::Slider(Form* form, const ControlData& data)
-    : Control(form, data, makeSlider(*this, dataOf(form, data).vertical)),
-      slider_(static_cast<QSlider*>(widget())) {
-  const SliderData& stored = dataOf(form, data);
-  slider_->setInvertedAppearance(stored.vertical);
-  slider_->setInvertedControls(stored.vertical);
-  slider_->setPageStep(stored.largeChange);
-  slider_->setSingleStep(stored.smallChange);
+Slider::Slider(FormWindow& form, const ControlData& data, const SliderData& values)
+    : Control(form, data, new SliderWidget(values)), slider_(static_cast<QSlider*>(widget())) {
+  slider_->setPageStep(values.largeChange);
+  slider_->setSingleStep(values.smallChange);
   slider_->setTickPosition(QSlider::TicksAbove);
-  setTickFrequency(stored.tickFrequency);
-  spokenFactor_ = stored.spokenFactor;
-  slider_->setAccessibleDescription(stored.unit);
-  setRange(stored.min, stored.max);
-  slider_->setValue(stored.value);
-  value_ = slider_->value();
-  // A groove that is held down goes on paging in a paint-only wait; its events come after that.
-  QObject::connect(slider_, &QSlider::valueChanged, slider_,
-                   [this] { Application::whenServed(slider_, [this] { moved(slider_->value()); }); });
+  slider_->setTickInterval(values.tickFrequency);
+  slider_->setAccessibleDescription(values.unit);
+  slider_->setRange(values.min, values.max);
+  slider_->setValue(values.value);
+  QObject::connect(slider_, &QSlider::valueChanged, slider_, [this] {
+    if (byHand_) raise(onScroll);
+    raise(onChange);
+  });
 }
 
-void Slider::moved(int value) {
-  if (value == value_) return;
-  value_ = value;
-  if (byHand_) raise(onScroll);
-  raise(onChange);
+int Slider::value() const {
+  return slider_->value();
 }
 
 void Slider::setValue(int value) {
-  value = std::clamp(value, min_, max_);
-  if (value == value_) return;
   const bool before = std::exchange(byHand_, false);
   slider_->setValue(value);
   byHand_ = before;
 }
 
+int Slider::min() const {
+  return slider_->minimum();
+}
+
 void Slider::setMin(int min) {
-  setRange(min, std::max(min, max_));
+  const QSignalBlocker noEvent(slider_);
+  slider_->setMinimum(min);
+}
+
+int Slider::max() const {
+  return slider_->maximum();
 }
 
 void Slider::setMax(int max) {
-  setRange(std::min(min_, max), max);
-}
-
-void Slider::setRange(int min, int max) {
-  min_ = min;
-  max_ = max;
-  value_ = std::clamp(value_, min, max);
-  slider_->setRange(min, max);
+  const QSignalBlocker noEvent(slider_);
+  slider_->setMaximum(max);
 }
 
 int Slider::tickFrequency() const {
@@ -145,12 +135,6 @@ void Slider::setTickFrequency(int steps) {
 
 void Slider::setSpokenName(const std::string& name) {
   slider_->setAccessibleName(toQt(name));
-}
-
-void Slider::adoptHandlers(const Control& other) {
-  Control::adoptHandlers(other);
-  onScroll = static_cast<const Slider&>(other).onScroll;
-  onChange = static_cast<const Slider&>(other).onChange;
 }
 
 }  // namespace forms

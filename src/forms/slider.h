@@ -12,35 +12,26 @@ namespace forms {
 /// before the assignment returns. A new `Min` or `Max` moves the value without an event.
 class Slider : public Control {
  public:
-  Slider(Form* form, const ControlData& data);
+  Slider(FormWindow& form, const ControlData& data, const SliderData& values);
 
-  int value() const { return value_; }
+  int value() const;
   void setValue(int value);
-  int min() const { return min_; }
+  int min() const;
   void setMin(int min);
-  int max() const { return max_; }
+  int max() const;
   void setMax(int max);
   int tickFrequency() const;
   void setTickFrequency(int steps);
 
-  /// What a screen reader calls the slider, and what it reads for a value.
+  /// What a screen reader calls the slider.
   void setSpokenName(const std::string& name);
-  double spokenValue() const { return value_ * spokenFactor_; }
-  double spokenFactor() const { return spokenFactor_; }
 
   Event onScroll;
   Event onChange;
 
-  void adoptHandlers(const Control& other) override;
-
  private:
-  void setRange(int min, int max);
-  void moved(int value);
-
   QSlider* slider_;
-  int value_ = 0, min_ = 0, max_ = 0;
   bool byHand_ = true;
-  double spokenFactor_ = 1;
 };
 
 }  // namespace forms

@@ -3,27 +3,34 @@
 
 #include <QButtonGroup>
 #include <QWidget>
-#include <vector>
+#include <deque>
 
+#include "forms/drawn_line.h"
 #include "forms/form_data.h"
 
 namespace forms {
 
-class Line;
-
 /// A container's widget. What it holds is placed inside the border.
 class Surface : public QWidget {
  public:
-  Surface(QWidget* parent, bool border, Scale scale);
+  Surface(bool border, Scale scale);
 
   int border() const { return border_ ? 1 : 0; }
   /// Units of this container's scale that make a logical pixel.
   double unitsPerPixel() const { return scale_ == Scale::Twips ? kTwipsPerPixel : 1; }
-  void addLine(const Line* line) { lines_.push_back(line); }
-  void removeLine(const Line* line) { std::erase(lines_, line); }
-  /// The option buttons that stand directly on this surface, of which one is selected. The widget toolkit's
-  /// own grouping would take those of inner surfaces in.
+  /// Size inside the border, in the container's scale.
+  double scaleWidth() const { return (width() - 2 * border()) * unitsPerPixel(); }
+  double scaleHeight() const { return (height() - 2 * border()) * unitsPerPixel(); }
+
+  /// The option buttons that stand directly on this surface, of which one is selected.
   QButtonGroup& options() { return options_; }
+
+  /// The line stays where it is for as long as the surface lives.
+  DrawnLine& addLine(const DrawnLine& line) { return lines_.emplace_back(line); }
+  /// Has the place of `line` painted anew: to be called before and after a change.
+  void updateLine(const DrawnLine& line);
+  /// Paints all lines, with `painter` in the coordinates of this widget. Leaves it clipped and scaled.
+  void paintLines(QPainter& painter) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -31,11 +38,8 @@ class Surface : public QWidget {
  private:
   bool border_;
   Scale scale_;
-  std::vector<const Line*> lines_;
+  std::deque<DrawnLine> lines_;
   QButtonGroup options_;
 };
-
-/// Fills the outermost pixels of `extent`, whole ones on scaled screens too.
-void drawOutline(QPainter& painter, const QRect& extent, const QColor& color);
 
 }  // namespace forms

@@ -4,8 +4,9 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <algorithm>
+#include <utility>
 
-#include "forms/look.h"
+#include "forms/style.h"
 
 namespace forms {
 namespace {
@@ -53,63 +54,51 @@ class TextBoxFilter : public QObject {
   TextBox& box_;
 };
 
-TextBox::TextBox(Form* form, const ControlData& data)
+TextBox::TextBox(FormWindow& form, const ControlData& data)
     : Control(form, data, makeBox(data.kind == Kind::MultiLineTextBox)),
-      multiLine_(data.kind == Kind::MultiLineTextBox) {
+      editor_(qobject_cast<QPlainTextEdit*>(widget())),
+      text_(data.text) {
   auto* filter = new TextBoxFilter(*this);
   widget()->installEventFilter(filter);
-  text_ = data.text != nullptr ? data.text : "";
-  stale_ = true;
-  if (!multiLine_) return;
-  auto* box = static_cast<QPlainTextEdit*>(widget());
-  box->viewport()->installEventFilter(filter);
-  QObject::connect(box, &QPlainTextEdit::textChanged, box, [this] { edited(); });
+  if (editor_ == nullptr) return;
+  editor_->viewport()->installEventFilter(filter);
+  QObject::connect(editor_, &QPlainTextEdit::textChanged, editor_, [this] { edited(); });
 }
 
 void TextBox::setText(const std::string& text) {
   if (text_ == text) return;
   text_ = text;
-  stale_ = true;
-  syncSoon();
+  if (!std::exchange(stale_, true) && widget()->isVisible())
+    QMetaObject::invokeMethod(
+        widget(), [this] { sync(); }, Qt::QueuedConnection);
   raise(onChange);
 }
 
-void TextBox::syncSoon() {
-  if (queued_ || !widget()->isVisible()) return;
-  queued_ = true;
-  QMetaObject::invokeMethod(
-      widget(), [this] { queued_ = false, sync(); }, Qt::QueuedConnection);
-}
-
 void TextBox::sync() {
-  if (!stale_) return;
-  stale_ = false;
-  syncing_ = true;
-  if (multiLine_) {
-    static_cast<QPlainTextEdit*>(widget())->setPlainText(toQt(text_));
-  } else {
+  if (!std::exchange(stale_, false)) return;
+  if (editor_ == nullptr) {
     // The end of a long path says more than its beginning; the cursor behind the text keeps it in view.
     static_cast<QLineEdit*>(widget())->setText(toQt(text_));
+    return;
   }
-  syncing_ = false;
+  const QSignalBlocker noEdit(editor_);
+  editor_->setPlainText(toQt(text_));
 }
 
 void TextBox::edited() {
-  if (syncing_) return;
-  text_ = fromQt(static_cast<QPlainTextEdit*>(widget())->toPlainText().replace("\n", "\r\n"));
-  raiseWhenServed(onChange);
+  text_ = fromQt(editor_->toPlainText().replace("\n", "\r\n"));
+  raise(onChange);
 }
 
 void TextBox::setSelStart(int position) {
   sync();
-  if (!multiLine_) {
+  if (editor_ == nullptr) {
     static_cast<QLineEdit*>(widget())->setCursorPosition(position);
     return;
   }
-  auto* box = static_cast<QPlainTextEdit*>(widget());
-  QTextCursor cursor = box->textCursor();
-  cursor.setPosition(std::clamp(position, 0, box->document()->characterCount() - 1));
-  box->setTextCursor(cursor);
+  QTextCursor cursor = editor_->textCursor();
+  cursor.setPosition(std::clamp(position, 0, editor_->document()->characterCount() - 1));
+  editor_->setTextCursor(cursor);
 }
 
 }  // namespace forms

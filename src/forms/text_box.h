@@ -3,13 +3,15 @@
 
 #include "forms/control.h"
 
+class QPlainTextEdit;
+
 namespace forms {
 
 /// The text is kept here; the widget gets it when it is next shown, so that many assignments in a row lay out
 /// one document. Lines end in carriage return and line feed once the user has edited the box.
 class TextBox : public Control {
  public:
-  TextBox(Form* form, const ControlData& data);
+  TextBox(FormWindow& form, const ControlData& data);
 
   const std::string& text() const { return text_; }
   /// A different text raises Change before the assignment returns.
@@ -21,15 +23,12 @@ class TextBox : public Control {
 
  private:
   friend class TextBoxFilter;
-  void syncSoon();
   void sync();
   void edited();
 
+  QPlainTextEdit* editor_;  ///< null in a box of one line
   std::string text_;
-  bool multiLine_;
-  bool stale_ = false;
-  bool queued_ = false;
-  bool syncing_ = false;
+  bool stale_ = true;
 };
 
 }  // namespace forms

@@ -2,41 +2,30 @@
 
 #include <QTimer>
 
-#include "forms/application.h"
-#include "forms/form.h"
+#include "forms/form_window.h"
+#include "forms/surface.h"
 
 namespace forms {
 
-Timer::Timer(Form* form, const TimerData& data)
-    : Item(form, kSingle),
-      timer_(std::make_unique<QTimer>()),
-      interval_(data.interval),
-      enabled_(data.enabled) {
+Timer::Timer(FormWindow& form, const TimerData& data)
+    : Item(form, kSingle), timer_(new QTimer(&form.surface(""))) {
   timer_->setTimerType(Qt::PreciseTimer);
-  QObject::connect(timer_.get(), &QTimer::timeout,
-                   [this] { Application::whenServed(timer_.get(), [this] { tick(); }); });
-  if (enabled_ && interval_ > 0) timer_->start(interval_);
-}
-
-Timer::~Timer() = default;
-
-void Timer::tick() {
-  if (ticking_ || !enabled_ || !form()->isLoaded()) return;
-  const auto alive = form()->shared_from_this();
-  ticking_ = true;
-  raise(onTick);
-  ticking_ = false;
-}
-
-bool Timer::enabled() const {
-  return enabled_;
+  timer_->setInterval(data.interval);
+  tick_ = [this](int index) {
+    if (ticking_ || !onTick) return;
+    ticking_ = true;
+    onTick(index);
+    ticking_ = false;
+  };
+  QObject::connect(timer_, &QTimer::timeout, timer_, [this] { raise(tick_); });
+  setEnabled(data.enabled);
 }
 
 void Timer::setEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
-  if (enabled && interval_ > 0)
-    timer_->start(interval_);
+  if (enabled && timer_->interval() > 0)
+    timer_->start();
   else
     timer_->stop();
 }

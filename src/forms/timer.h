@@ -1,8 +1,6 @@
 // A timer that ticks on the user-interface thread.
 #pragma once
 
-#include <memory>
-
 #include "forms/control.h"
 
 class QTimer;
@@ -13,20 +11,17 @@ namespace forms {
 /// loaded; those that are due during a paint-only wait become one tick after it.
 class Timer : public Item {
  public:
-  Timer(Form* form, const TimerData& data);
-  ~Timer() override;
+  Timer(FormWindow& form, const TimerData& data);
 
-  bool enabled() const;
+  bool enabled() const override { return enabled_; }
   void setEnabled(bool enabled);
 
   Event onTick;
 
  private:
-  void tick();
-
-  std::unique_ptr<QTimer> timer_;
-  int interval_;
-  bool enabled_;
+  QTimer* timer_;
+  Event tick_;
+  bool enabled_ = false;
   bool ticking_ = false;
 };
 

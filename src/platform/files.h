@@ -13,8 +13,8 @@ bool sameFile(const std::string& one, const std::string& other);
 /// named pipe.
 bool writeFile(const std::string& path, std::string_view content);
 
-/// Takes its name from a regular file, or from the one that a symbolic link leads to; who has it open keeps it,
-/// and the link stays. Nothing happens where that fails, nor to whatever is no regular file.
+/// Takes its name from a regular file, or from the one that a symbolic link leads to; who has it open keeps
+/// it, and the link stays. Nothing happens where that fails, nor to whatever is no regular file.
 void removeFile(const std::string& path);
 
 }  // namespace platform

@@ -17,6 +17,11 @@ void MainWindow::BuildMainWindow() {
     Line4.load(i);
     Label9.load(i);
   }
+  Slider1.each([this](auto& slider) {
+    slider.onMouseMove = [this](int i) { Slider1_MouseMove(i); };
+    slider.onScroll = [this](int i) { Slider1_Scroll(i); };
+    slider.onChange = [this](int i) { Slider1_Change(i); };
+  });
   PlaceSliders();
   PlaceBandLabels();
   PlaceScale();

@@ -5,7 +5,6 @@
 
 void prepareDialog(const std::string& title, const std::string& filter, int filterIndex) {
   forms::CommonDialog& dialog = Form1->CDialog;
-  dialog.setCancelError(true);
   dialog.setDialogTitle(title);
   dialog.setFileName("");
   dialog.setFilter(filter);

@@ -3,7 +3,7 @@
 #include "core/app_state.h"
 #include "windows/startup.h"
 
-forms::Window<MainWindow> Form1;
+forms::DefaultInstance<MainWindow> Form1;
 
 MainWindow::MainWindow()
     : Form(kForm1Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {
@@ -15,11 +15,6 @@ MainWindow::MainWindow()
   onMouseMove = [this] { Form_MouseMove(); };
 
   Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
-  Slider1.each([this](auto& slider) {
-    slider.onMouseMove = [this](int i) { Slider1_MouseMove(i); };
-    slider.onScroll = [this](int i) { Slider1_Scroll(i); };
-    slider.onChange = [this](int i) { Slider1_Change(i); };
-  });
   Slider2.onMouseMove = [this](int) { Slider2_MouseMove(); };
   Slider2.onScroll = [this](int) { Slider2_Scroll(); };
   Slider2.onChange = [this](int) { Slider2_change(); };

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "forms/window.h"
+#include "forms/default_instance.h"
 #include "tools/dos_outputs.h"
 
 /// Handlers have the name of their control and event; the index is that of the member in its array.
@@ -109,5 +109,5 @@ class MainWindow : public forms::Form {
   void PreviewSound();
 };
 
-extern forms::Window<MainWindow> Form1;
+extern forms::DefaultInstance<MainWindow> Form1;
 extern const forms::FormData kForm1Data;

@@ -118,7 +118,6 @@ const FormData kForm1Data{
     .width = 17310,
     .height = 5100,
     .back = kGrey,
-    .icon = "tessavane",
     .scale = Scale::Pixels,
     .oneSize = true,
     .minimiseButton = true,

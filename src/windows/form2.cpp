@@ -9,7 +9,7 @@
 #include "tools/tool_output.h"
 #include "windows/form1.h"
 
-forms::Window<RenderWindow> Form2;
+forms::DefaultInstance<RenderWindow> Form2;
 
 RenderWindow::RenderWindow()
     : Form(kForm2Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {
@@ -21,7 +21,6 @@ RenderWindow::RenderWindow()
 void RenderWindow::Form_Load() {
   setHeight(3420);
   setWidth(6900);
-  setIcon(Form1->icon());
   PBar.setMax(static_cast<double>(wholeNumber(AppState.SourceSeconds).value_or(0)));
   Timer1.setEnabled(true);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "forms/window.h"
+#include "forms/default_instance.h"
 #include "tools/dos_outputs.h"
 
 /// One load starts one render. A window that is closed meanwhile leaves the render running.
@@ -27,5 +27,5 @@ class RenderWindow : public forms::Form {
   void DosCommand();
 };
 
-extern forms::Window<RenderWindow> Form2;
+extern forms::DefaultInstance<RenderWindow> Form2;
 extern const forms::FormData kForm2Data;

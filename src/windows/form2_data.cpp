@@ -49,7 +49,6 @@ const FormData kForm2Data{
     .width = 6735,
     .height = 2985,
     .back = kLightGrey,
-    .icon = nullptr,
     .scale = Scale::Twips,
     .oneSize = true,
     .minimiseButton = false,

@@ -5,7 +5,7 @@
 #include "forms/application.h"
 #include "windows/form1.h"
 
-forms::Window<EqStringWindow> Form3;
+forms::DefaultInstance<EqStringWindow> Form3;
 
 namespace {
 
@@ -25,7 +25,6 @@ EqStringWindow::EqStringWindow() : Form(kForm3Data) {
 
 void EqStringWindow::Form_Load() {
   Timer1.setEnabled(false);
-  setIcon(Form1->icon());
 }
 
 void EqStringWindow::Form_Resize() {

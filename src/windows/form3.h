@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "forms/window.h"
+#include "forms/default_instance.h"
 
 class EqStringWindow : public forms::Form {
  public:
@@ -26,5 +26,5 @@ class EqStringWindow : public forms::Form {
   void CopyText();
 };
 
-extern forms::Window<EqStringWindow> Form3;
+extern forms::DefaultInstance<EqStringWindow> Form3;
 extern const forms::FormData kForm3Data;

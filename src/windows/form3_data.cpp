@@ -27,7 +27,6 @@ const FormData kForm3Data{
     .width = 8580,
     .height = 3810,
     .back = kLightGrey,
-    .icon = nullptr,
     .scale = Scale::Pixels,
     .oneSize = false,
     .minimiseButton = true,

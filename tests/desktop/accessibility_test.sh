@@ -27,10 +27,8 @@ surroundings=("DBUS_SESSION_BUS_ADDRESS=$(cat "$scratch/bus")" QT_LINUX_ACCESSIB
 env "$mark" "${surroundings[@]}" /usr/bin/python3 -W ignore "$(dirname "$0")/spoken.py" >"$scratch/heard" 2>/dev/null & disown
 wait_for heard listening
 if [ "${2-}" = wayland ]; then
-  weston --backend=x11-backend.so --use-pixman --width=1280 --height=800 --idle-time=0 --socket=wayland-test \
-    >/dev/null 2>&1 &
-  started+=($!)
-  disown
+  in_background weston --backend=x11-backend.so --use-pixman --width=1280 --height=800 --idle-time=0 \
+    --socket=wayland-test
   wait_for test -S "$XDG_RUNTIME_DIR/wayland-test"
   surroundings+=(WAYLAND_DISPLAY=wayland-test QT_QPA_PLATFORM=wayland)
 fi

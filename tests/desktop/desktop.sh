@@ -1,13 +1,15 @@
 # shellcheck shell=bash
-# For tests that drive the real program as a person would: on a desktop of their own, with mouse and keyboard,
-# seeing windows, pictures, files and the clipboard alone. A test sources this file and passes the program on.
+# Drives the real program as a person would: on a desktop of its own, with mouse and keyboard, seeing windows,
+# pictures, files and the clipboard alone. A script sources this file and passes the program on.
 set -u
 
 program=$(realpath "$1")
 scratch=$(realpath "$(mktemp -d)")
 folder="$scratch/app"
+mkdir "$folder"
 started=()
 main=0
+sources=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../src")
 trap finish EXIT
 trap 'exit 1' INT TERM HUP
 
@@ -25,19 +27,20 @@ finish() {
   rm -rf "$scratch"
 }
 
-# fail WHAT [EXPECTED GOT]: ends the test and leaves a picture of the screen in the current folder.
+# fail WHAT [EXPECTED GOT]: ends the script and leaves a picture of the screen in the current folder.
 fail() {
   local picture
   picture="$PWD/$(basename "$0" .sh).png"
   echo "FAILED: $1"
   [ $# -lt 2 ] || printf 'expected: %s\n     got: %s\n' "$2" "$3"
+  cat "$scratch/errors" 2>/dev/null
   import -silent -window root "$picture" 2>/dev/null && echo "picture: $picture"
   exit 1
 }
 
-# wait_for CONDITION...: runs the command until it succeeds; fails the test after 20 seconds.
+# wait_for CONDITION...: runs the command until it succeeds; fails after 60 seconds.
 wait_for() {
-  local limit=$((SECONDS + 20))
+  local limit=$((SECONDS + 60))
   until "$@"; do
     [ "$SECONDS" -lt "$limit" ] || fail "waited in vain for: $*"
     sleep 0.03
@@ -53,23 +56,26 @@ expect_file() {
   cmp -s "$2" "$3" || fail "$1" "$(head -c 4000 "$2" | tr '\0' '\n')" "$(head -c 4000 "$3" 2>&1 | tr '\0' '\n')"
 }
 
-start_desktop() {
-  local needed
-  for needed in Xvfb openbox xdotool xprop xwininfo xclip import compare ffmpeg ffprobe; do
-    command -v "$needed" >/dev/null || fail "$needed is not installed"
-  done
-  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display" 2>/dev/null &
+# in_background COMMAND...: until the script ends.
+in_background() {
+  "$@" >/dev/null 2>&1 &
   started+=($!)
   disown
+}
+
+start_desktop() {
+  local needed
+  for needed in Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
+    command -v "$needed" >/dev/null || fail "$needed is not installed"
+  done
+  in_background Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display"
   wait_for test -s "$scratch/display"
   DISPLAY=:$(cat "$scratch/display")
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
   export DISPLAY HOME XDG_RUNTIME_DIR
   mkdir -m 700 "$HOME"
   window_manager_settings >"$scratch/openbox.xml"
-  openbox --config-file "$scratch/openbox.xml" >/dev/null 2>&1 &
-  started+=($!)
-  disown
+  in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
   wait_for desktop_is_managed
 }
 
@@ -80,12 +86,8 @@ window_manager_settings() {
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <focus><focusNew>yes</focusNew></focus>
   <mouse>
-    <context name="Close">
-      <mousebind button="Left" action="Click"><action name="Close"/></mousebind>
-    </context>
-    <context name="Iconify">
-      <mousebind button="Left" action="Click"><action name="Iconify"/></mousebind>
-    </context>
+    <context name="Close"><mousebind button="Left" action="Click"><action name="Close"/></mousebind></context>
+    <context name="Iconify"><mousebind button="Left" action="Click"><action name="Iconify"/></mousebind></context>
   </mouse>
 </openbox_config>
 END
@@ -98,7 +100,6 @@ desktop_is_managed() {
 # tool NAME <SCRIPT: puts a tool beside the program that keeps its arguments, each ended by a zero byte, and
 # then does what the script says.
 tool() {
-  mkdir -p "$folder"
   # shellcheck disable=SC2016
   { printf '#!/bin/bash\nprintf "%%s\\0" "$@" >"$0.part"\nmv "$0.part" "$0.args"\n' && cat; } >"$folder/$1"
   chmod +x "$folder/$1"
@@ -110,12 +111,10 @@ real_tool() {
 
 # run_program [ENVIRONMENT...]: by a link in $folder, where it then finds its tools.
 run_program() {
-  mkdir -p "$folder"
   ln -sf "$program" "$folder/tessavane"
   env -u QT_QPA_PLATFORM -u QT_SCALE_FACTOR -u WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS=none: "$mark" "$@" \
     "$folder/tessavane" 2>"$scratch/errors" &
   running=$!
-  disown
 }
 
 # start_program [ENVIRONMENT...]: up to its window.
@@ -138,6 +137,11 @@ program_has_ended() {
   ! kill -0 "$running" 2>/dev/null
 }
 
+program_has_ended_well() {
+  wait_for program_has_ended
+  wait "$running" || fail "the program has ended with status $?"
+}
+
 only_program_runs() {
   [ "$(marked)" = "$running" ]
 }
@@ -146,26 +150,40 @@ nothing_runs() {
   [ -z "$(marked)" ]
 }
 
-# Where the boxes of the main window begin, in twips, and the pixels of their border.
-declare -A boxes=(
-  [bands]="240 240 1" [strip]="240 2640 1" [panel]="15240 240 1" [range]="15240 1560 1" [lowcut]="15240 2280 1"
-)
-# Box, left, top, width and height in twips.
-declare -A controls=(
-  [Open Source]="strip 240 360 1695 375" [Save As]="strip 4200 360 1815 375"
-  [Save Preset]="strip 2040 840 2055 375" [EQ String > Clipboard]="strip 4080 840 1935 375"
-  [Decrease]="strip 10560 240 1215 255" [Increase]="strip 13320 240 1095 255"
-  [12 db]="range 120 0 300 255" [6 db]="range 120 240 300 255"
-  [Low Cut On]="lowcut 120 0 300 255" [Low Cut Off]="lowcut 120 240 300 255"
-  [Preset 3]="panel 1080 600 300 210" [Exit]="panel 120 3240 1575 375"
-)
+# find_control NAME: by its caption or spoken name, in the active window or else in the main window. Leaves that
+# window and the control's middle in $place, in pixels of the window's inside, as the form data say. The main
+# window's data have no caption, since that changes. (The accessibility bus knows all places, but not every run
+# has one, and asking it takes ten times as long.)
+find_control() {
+  local active title
+  active=$(xdotool getactivewindow 2>/dev/null) && title=$(xdotool getwindowname "$active" 2>/dev/null) || return
+  read -ra place < <(awk -F '"' -v name="$1" -v active="$active" -v title="$title" -v main="$main" '
+    FNR == 1 { middle = "" }
+    /[{]Kind::/ { # A box comes before what it holds, which begins inside its border.
+      split($3 $5, number, ", *")
+      control = $2 (number[2] == "kSingle" ? "" : "(" number[2] ")")
+      x = left[$4] + number[4]
+      y = top[$4] + number[5]
+      border = /border = true/ ? 15 : 0
+      left[control] = x + border
+      top[control] = y + border
+      sub(/^ /, "", $(NF - 1))
+      if ($(NF - 1) == name && !middle) middle = int((x + number[6] / 2) / 15) " " int((y + number[7] / 2) / 15)
+    }
+    / \.caption = / { if (middle) found[$2] = middle }
+    END {
+      if (title in found) print active, found[title]
+      else if ("" in found) print main, found[""]
+    }' "$sources"/*/form*_data.cpp) || return
+  # This window moves its buttons to its lower edge, wherever that is with the frame that it got.
+  [ "$title" != "FFmpeg Equalizer String" ] || place[2]=$(($(xdotool getwindowgeometry --shell "$active" |
+    sed -n 's/HEIGHT=//p') - 34))
+}
 
-# click CONTROL: of the main window, by its middle.
+# click NAME: that control, once it is there.
 click() {
-  local box left top width height x y border
-  read -r box left top width height <<<"${controls[$1]}"
-  read -r x y border <<<"${boxes[$box]}"
-  click_at "$main" $(((x + left + width / 2) / 15 + border)) $(((y + top + height / 2) / 15 + border))
+  wait_for find_control "$1"
+  click_at "${place[@]}"
 }
 
 # click_at WINDOW X Y: in pixels of the window's inside.
@@ -195,12 +213,17 @@ keys() {
   xdotool key --delay 5 "$@"
 }
 
-# choose TITLE NAME: answers the file dialog of that title. The name comes by way of the clipboard, since not
-# every character has a key.
+# paste_text TEXT: by way of the clipboard, since not every character has a key.
+paste_text() {
+  printf %s "$1" | xclip -selection clipboard 2>/dev/null
+  keys ctrl+v
+}
+
+# choose TITLE NAME: answers the file dialog of that title.
 choose() {
   wait_for window_is_active "$1"
-  printf %s "$2" | xclip -selection clipboard 2>/dev/null
-  keys ctrl+v Return
+  paste_text "$2"
+  keys Return
   wait_for no_window "$1"
 }
 
@@ -222,22 +245,29 @@ save_as() {
 # The progress window, by its button.
 close_saving() {
   wait_for window_is_active "Saving"
-  click_at "$window" 384 84
+  click Close
   wait_for no_window "Saving"
 }
 
-# shot NAME: a picture of the main window as the screen shows it.
-shot() {
-  import -silent -window "$main" "$scratch/$1.png"
+# keep_look NAME: a picture of the screen, as bare colours.
+keep_look() {
+  import -silent -window root -depth 8 "rgb:$scratch/$1"
 }
 
-# The main window looks as in that picture by now.
+# The screen looks as in that picture by now.
 looks_like() {
-  shot now && [ "$(compare -metric AE "$scratch/$1.png" "$scratch/now.png" null: 2>&1)" = 0 ]
+  keep_look now && cmp -s "$scratch/$1" "$scratch/now"
 }
 
 looks_unlike() {
   ! looks_like "$1"
+}
+
+# still NAME: keeps the look of a screen where all that was done has been painted. No event tells that. But a
+# program that has events before it does not sleep, however busy the machine is, and what it paints by a
+# timer shows as a difference between two pictures.
+still() {
+  keep_look "$1" && ! grep -qs '^State:.[RD]' /proc/"$running"/task/*/status && looks_like "$1"
 }
 
 # pixel X Y: its colour on the main window, as red, green and blue in hexadecimal digits.

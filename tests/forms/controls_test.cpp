@@ -133,4 +133,20 @@ TEST_F(PaintOnlyWait, KeepsPressedButtonsForLaterAndOfAGroupTheLastOne) {
   EXPECT_EQ(Form1->Label7(3).caption(), "Indicators: Off");
 }
 
+TEST_F(Controls, AnUnknownIndexIsAFaultThatChangesNothing) {
+#ifdef NDEBUG
+  for (const int unknown : {-1, 2, 99}) {
+    Form1->Slider1(unknown + 40).setValue(5);
+    Form1->Option2(unknown).setValue(true);
+    Form1->Line4(unknown + 40).setVisible(true);
+    Form1->Label1(unknown + 40).setFocus();
+  }
+  EXPECT_FALSE(Form1->Option2(-1).widget()->isVisible());
+  EXPECT_EQ(Form1->Option2.count(), 2);
+  EXPECT_EQ(support::outOfStep(), "");
+#else
+  EXPECT_DEATH(Form1->Option2(2).setValue(true), "no member");
+#endif
+}
+
 }  // namespace

@@ -26,7 +26,7 @@ inline bool waitFor(const std::function<bool()>& condition) {
 
 /// True while the program takes no input.
 inline bool isHeldBack() {
-  return forms::Application::holdsBack();
+  return forms::Application::isDeferring();
 }
 
 /// The file dialog that waits for an answer, null where there is none.

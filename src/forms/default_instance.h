@@ -1,18 +1,16 @@
-// A window that exists once, under a name that the whole program knows.
+// The one instance of a window, under a name that the whole program knows.
 #pragma once
 
 #include <memory>
-#include <utility>
 
 #include "forms/form.h"
 
 namespace forms {
 
-/// The place of one window. The window comes into being, hidden, the first time anything refers to it, and
-/// again after an unload. A window that was unloaded while one of its handlers runs lives until that handler
-/// returns.
+/// The window comes into being, hidden, the first time anything refers to it, and again after an unload. A
+/// window that was unloaded while one of its handlers runs lives until that handler returns.
 template <class W>
-class Window {
+class DefaultInstance {
  public:
   W* operator->() { return &*loaded(); }
   W& operator*() { return *loaded(); }
@@ -26,7 +24,7 @@ class Window {
  private:
   const std::shared_ptr<W>& loaded() {
     if (!form_) {
-      const std::shared_ptr<W> form(new W, [](W* gone) { Form::destroyLater(gone); });
+      const std::shared_ptr<W> form(new W, &FormWindow::destroyLater);
       form_ = form;
       form->load([this] { form_.reset(); });
     }

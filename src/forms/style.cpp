@@ -1,12 +1,11 @@
-#include "forms/look.h"
+#include "forms/style.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
-
-#include "forms/surface.h"
 
 namespace forms {
 namespace {
@@ -87,8 +86,8 @@ class Style : public QProxyStyle {
   }
 
  private:
-  // The base style keeps the parts that it has drawn by palette: with one palette for all sliders it draws
-  // once.
+  // Fusion caches pictures of a slider's parts, one for each palette object: the sliders' own palettes, equal
+  // or not, would have it draw 34 times what it draws once with these.
   QPalette handle_;
   QPalette groove_;
   QPalette focus_;
@@ -119,7 +118,15 @@ QFont fontOf(double points, bool bold) {
   return font;
 }
 
-void applyLook() {
+void drawOutline(QPainter& painter, const QRect& extent, const QColor& color) {
+  const QRect rows[] = {{extent.topLeft(), QSize(extent.width(), 1)},
+                        {extent.bottomLeft(), QSize(extent.width(), 1)},
+                        {extent.topLeft(), QSize(1, extent.height())},
+                        {extent.topRight(), QSize(1, extent.height())}};
+  for (const QRect& row : rows) painter.fillRect(row, color);
+}
+
+void applyStyle() {
   QApplication::setStyle(new Style);
   QApplication::setPalette(lightPalette());
   QApplication::setFont(fontOf(8.25, false));

@@ -1,4 +1,4 @@
-// How the layer's texts, colours and fonts become the widget toolkit's.
+// The look that all windows share, and Qt's forms of texts, colours and fonts.
 #pragma once
 
 #include <QColor>
@@ -7,6 +7,8 @@
 #include <string>
 
 #include "forms/color.h"
+
+class QPainter;
 
 namespace forms {
 
@@ -22,7 +24,10 @@ QColor toQt(Color color);
 /// The program's font in a size in points, at 72 points to 96 pixels.
 QFont fontOf(double points, bool bold);
 
+/// Fills the outermost pixels of `extent`, whole ones on scaled screens too.
+void drawOutline(QPainter& painter, const QRect& extent, const QColor& color);
+
 /// Gives the application the program's own look, the same on every desktop.
-void applyLook();
+void applyStyle();
 
 }  // namespace forms

@@ -1,0 +1,265 @@
+#include "forms/form_window.h"
+
+#include <QAccessibleWidget>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "forms/application.h"
+#include "forms/style.h"
+#include "forms/surface.h"
+
+namespace forms {
+
+/// The top-level widget of a form. It holds the outer size, although the window manager puts its frame around
+/// a window only after that is shown.
+class FormSurface : public Surface {
+ public:
+  FormSurface(FormWindow& form, const FormData& data);
+
+  /// Pixels, frame included.
+  QSize outerSize() const { return size().grownBy(frame()); }
+  /// Brings the window to the outer size of its form.
+  void applyOuterSize();
+  /// Prepares the first show: in the middle of the owner's window, or of the screen where there is none.
+  void standBeside(const FormSurface* owner);
+  /// Shows the window, in its normal state if it is minimised, in front of the others.
+  void bringForward();
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QMargins frame() const;
+  void centre();
+  void reportState();
+
+  FormWindow& form_;
+  bool oneSize_;
+  QMargins assumedFrame_;
+  QSize requestedSize_;
+  QSize reportedSize_;
+  QPoint centre_;
+  bool centred_ = false;
+  bool minimised_ = false;
+};
+
+namespace {
+
+/// The frame of the window that was shown last. Outer sizes and places are asked for before the window
+/// manager frames a new window, and most likely it frames all alike.
+QMargins lastFrame;
+
+/// Qt tells a screen reader that a plain top-level widget is a filler, not a window.
+QAccessibleInterface* makeSpokenWindow(const QString& /*kind*/, QObject* object) {
+  auto* surface = dynamic_cast<FormSurface*>(object);
+  if (surface == nullptr) return nullptr;
+  const bool owned = surface->windowType() == Qt::Dialog;
+  return new QAccessibleWidget(surface, owned ? QAccessible::Dialog : QAccessible::Window);
+}
+
+}  // namespace
+
+FormSurface::FormSurface(FormWindow& form, const FormData& formData)
+    : Surface(false, formData.scale), form_(form), oneSize_(formData.oneSize) {
+  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenWindow), true);
+  Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
+  if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
+  if (formData.maximiseButton) flags |= Qt::WindowMaximizeButtonHint;
+  setWindowFlags(flags);
+  setObjectName(formData.name);
+  setMouseTracking(true);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, toQt(formData.back));
+  setPalette(colors);
+  resize(formData.width / kTwipsPerPixel, formData.height / kTwipsPerPixel);
+}
+
+QMargins FormSurface::frame() const {
+  // Before the window manager has framed it, a window has no margins.
+  const QMargins known = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+  return known.isNull() ? lastFrame : known;
+}
+
+void FormSurface::applyOuterSize() {
+  assumedFrame_ = frame();
+  const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
+  requestedSize_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
+  if (oneSize_)
+    setFixedSize(requestedSize_);
+  else
+    resize(requestedSize_);
+}
+
+void FormSurface::standBeside(const FormSurface* owner) {
+  applyOuterSize();
+  const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
+  centre_ = (owner != nullptr ? owner->frameGeometry() : screenArea).center();
+  centre();
+  if (owner != nullptr) {
+    winId();
+    windowHandle()->setTransientParent(owner->windowHandle());
+  }
+  reportedSize_ = size();
+}
+
+void FormSurface::centre() {
+  QRect place({0, 0}, outerSize());
+  place.moveCenter(centre_);
+  const QRect screenArea = screen()->availableGeometry();
+  move(std::max(place.left(), screenArea.left()), std::max(place.top(), screenArea.top()));
+}
+
+void FormSurface::bringForward() {
+  if (isMinimized())
+    showNormal();
+  else if (isVisible())
+    raise();
+  else
+    show();
+  activateWindow();
+}
+
+/// Tells the form of a new size or state, once it is shown.
+void FormSurface::reportState() {
+  if (!isVisible()) return;
+  const bool wasMinimised = std::exchange(minimised_, isMinimized());
+  if (minimised_) {
+    if (!wasMinimised) form_.raise(form_.onResize);
+    return;
+  }
+  lastFrame = frame();
+  // The window manager's frame is not the one that the size was asked for with: the outer size stays and the
+  // inner one gives way.
+  if (lastFrame != assumedFrame_ && size() == requestedSize_) {
+    applyOuterSize();
+    if (!std::exchange(centred_, true)) centre();
+  }
+  if (size() == reportedSize_ && !wasMinimised) return;
+  reportedSize_ = size();
+  form_.outerWidth_ = outerSize().width() * kTwipsPerPixel;
+  form_.outerHeight_ = outerSize().height() * kTwipsPerPixel;
+  form_.raise(form_.onResize);
+}
+
+bool FormSurface::event(QEvent* event) {
+  // By itself Qt shows the focus only from the first Tab on.
+  if (event->type() == QEvent::WindowActivate) setAttribute(Qt::WA_KeyboardFocusChange);
+  const bool handled = Surface::event(event);
+  switch (event->type()) {
+    case QEvent::MouseMove:
+      form_.raise(form_.onMouseMove);
+      break;
+    case QEvent::Show:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowActivate:
+    case QEvent::WindowStateChange:
+      reportState();
+      break;
+    default:
+      break;
+  }
+  return handled;
+}
+
+void FormSurface::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!Application::isDeferring()) form_.unload();
+}
+
+FormWindow::FormWindow(const FormData& data) : window_(std::make_unique<FormSurface>(*this, data)) {
+  outerWidth_ = window_->outerSize().width() * kTwipsPerPixel;
+  outerHeight_ = window_->outerSize().height() * kTwipsPerPixel;
+  setCaption(data.caption);
+}
+
+FormWindow::~FormWindow() = default;
+
+Surface& FormWindow::surface(const char* container) const {
+  if (*container == '\0') return *window_;
+  auto* found = dynamic_cast<Surface*>(window_->findChild<QWidget*>(container));
+  return found != nullptr ? *found : *window_;
+}
+
+void FormWindow::setCaption(const std::string& caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  window_->setWindowTitle(toQt(caption));
+}
+
+double FormWindow::scaleWidth() const {
+  return window_->scaleWidth();
+}
+
+double FormWindow::scaleHeight() const {
+  return window_->scaleHeight();
+}
+
+bool FormWindow::minimised() const {
+  return window_->isMinimized();
+}
+
+void FormWindow::setOuterSize(double width, double height) {
+  if (!(width > 0 && height > 0) || minimised() || (width == outerWidth_ && height == outerHeight_)) return;
+  outerWidth_ = width;
+  outerHeight_ = height;
+  window_->applyOuterSize();
+}
+
+void FormWindow::raise(const void* event, const std::function<void(bool deferred)>& handler) {
+  if (!loaded_) return;
+  const bool deferred = Application::isDeferring();
+  Application::runOrDefer(event, [form = weak_from_this(), handler, deferred] {
+    const auto alive = form.lock();
+    if (alive && alive->loaded_) handler(deferred);
+  });
+}
+
+void FormWindow::raise(const std::function<void()>& event) {
+  raise(&event, [&event](bool /*deferred*/) {
+    if (event) event();
+  });
+}
+
+void FormWindow::load(std::function<void()> forget) {
+  forget_ = std::move(forget);
+  loaded_ = true;
+  raise(onLoad);
+}
+
+void FormWindow::show(const FormWindow* owner) {
+  if (!loaded_) return;
+  if (!window_->isVisible()) {
+    window_->standBeside(owner != nullptr ? owner->window_.get() : nullptr);
+    raise(onResize);
+    if (!loaded_) return;
+  }
+  window_->bringForward();
+}
+
+void FormWindow::unload() {
+  if (!loaded_ || unloading_) return;
+  unloading_ = true;
+  const auto alive = shared_from_this();
+  raise(onQueryUnload);
+  raise(onUnload);
+  raise(onTerminate);
+  loaded_ = false;
+  window_->hide();
+  forget_();
+}
+
+void FormWindow::destroyLater(FormWindow* form) {
+  // The last reference can go inside an event of one of the form's own widgets.
+  if (QCoreApplication::instance() == nullptr) return;
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [form] { delete form; }, Qt::QueuedConnection);
+}
+
+}  // namespace forms

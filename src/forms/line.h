@@ -21,6 +21,7 @@ class Line : public Item {
   void setY2(double value) { set(line_.y2, value); }
   Color borderColor() const { return line_.color; }
   void setBorderColor(Color color) { set(line_.color, color); }
+  int borderWidth() const { return line_.width; }
   void setBorderWidth(int pixels) { set(line_.width, pixels); }
   bool visible() const { return line_.visible; }
   void setVisible(bool visible) { set(line_.visible, visible); }

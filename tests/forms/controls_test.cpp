@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QLabel>
-#include <cmath>
 
 #include "support/session.h"
 
@@ -23,15 +22,6 @@ TEST_F(Controls, AClickOnAChosenOptionRaisesAnAssignmentOfWhatIsThereDoesNot) {
   EXPECT_EQ(events, "04");
 }
 
-TEST_F(Controls, ArrowKeysWalkTheOptionsOfOneContainer) {
-  ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));
-  Form1->Option2(0).setFocus();
-  QTest::keyClick(Form1->Option2(0).widget(), Qt::Key_Down);
-  EXPECT_TRUE(Form1->Option2(1).value());
-  EXPECT_TRUE(Form1->Option1(0).value());
-  EXPECT_TRUE(Form1->Option3(1).value());
-}
-
 TEST_F(Controls, ShowTextAsItIs) {
   const std::string nasty = "<b>&x.wav & <%y%>";
   Form1->Label7(4).setCaption(nasty);
@@ -41,11 +31,6 @@ TEST_F(Controls, ShowTextAsItIs) {
   EXPECT_EQ(label->textFormat(), Qt::PlainText);
   const auto* button = static_cast<QAbstractButton*>(Form1->Command1(8).widget());
   EXPECT_TRUE(QKeySequence::mnemonic(button->text()).isEmpty());
-}
-
-TEST_F(Controls, ShowNoProgressThatCannotBe) {
-  for (const double value : {60.0, -1.0, 100.5, std::nan("")}) Form2->PBar.setValue(value);
-  EXPECT_EQ(Form2->PBar.value(), 60);
 }
 
 TEST_F(Controls, AWindowComesBackFreshAfterAnUnloadOfWhichItsHandlersHearOnce) {
@@ -118,12 +103,6 @@ TEST_F(PaintOnlyWait, KeepsTicksForLater) {
   EXPECT_EQ(ticks, 0);
   forms::Application::doEvents();
   EXPECT_GE(ticks, 1);
-}
-
-TEST_F(PaintOnlyWait, KeepsAMinimisedWindowForLater) {
-  waitWith([this] { window->showMinimized(); });
-  EXPECT_FALSE(AppState.WindowMinimised);
-  EXPECT_TRUE(support::waitFor([] { return AppState.WindowMinimised; }));
 }
 
 TEST_F(PaintOnlyWait, LetsNoWindowClose) {

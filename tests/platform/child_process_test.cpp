@@ -38,10 +38,6 @@ class ChildProcess : public testing::Test {
   platform::ChildProcess child_;
 };
 
-TEST_F(ChildProcess, JoinsBothStreams) {
-  EXPECT_EQ(outputOf(tool("for i in 1 2; do echo out$i; echo err$i >&2; done")), "out1\nerr1\nout2\nerr2\n");
-}
-
 TEST_F(ChildProcess, HasTheNullDeviceAsInput) {
   EXPECT_EQ(outputOf(tool("readlink /proc/$$/fd/0")), "/dev/null\n");
 }

@@ -7,15 +7,6 @@
 
 namespace {
 
-TEST(Files, AreTheSameByWhateverNameAndLink) {
-  const support::OwnFolder own;
-  const std::string file = support::writeText(own, "file", "");
-  std::filesystem::create_symlink("file", own.file("link"));
-  EXPECT_TRUE(platform::sameFile(file, own.file("link")));
-  EXPECT_FALSE(platform::sameFile(file, support::writeText(own, "other", "")));
-  EXPECT_FALSE(platform::sameFile(own.file("missing"), own.file("missing")));
-}
-
 TEST(Files, AreReplacedByWhatIsWrittenOrRefusedWithoutAWait) {
   const support::OwnFolder own;
   const std::string file = support::writeText(own, "file", "a longer text than the new one");

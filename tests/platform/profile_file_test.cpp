@@ -1,7 +1,6 @@
 #include "platform/profile_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <csignal>
 
@@ -90,23 +89,6 @@ TEST_F(ProfileFile, AFullDiskLeavesTheOldTextAndNoOtherFile) {
   EXPECT_FALSE(write(file, std::string(4500, '2')));
   EXPECT_EQ(read(file), "1");
   EXPECT_EQ(std::distance(fs::directory_iterator(own_.path()), {}), 1);
-}
-
-TEST_F(ProfileFile, AFolderIsNone) {
-  EXPECT_FALSE(write(own_.path(), "1"));
-}
-
-TEST_F(ProfileFile, AKillAtAnyMomentLeavesEveryPresetWhole) {
-  const std::string whole = "[Preset#1]\nFrequency=1\n[Preset#2]\nFrequency=" + std::string(900, '2') + "\n";
-  const std::string file = support::writeText(own_, "file", whole);
-  for (useconds_t round = 0; round < 200; ++round) {
-    const pid_t saving = fork();
-    while (saving == 0) write(file, "1");
-    usleep(round * 10);
-    kill(saving, SIGKILL);
-    waitpid(saving, nullptr, 0);
-    ASSERT_EQ(support::readFile(file), whole) << "round " << round;
-  }
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // A user who does anything at all with the real windows, and what has to hold after each step.
 // Usage: random_user [STEPS [SEED]]. A seed stands for the same actions each time.
-#include <QKeySequence>
 #include <QWheelEvent>
 #include <iostream>
 #include <random>
@@ -9,16 +8,7 @@
 
 namespace {
 
-enum class Action {
-  PressButton,
-  Click,
-  DragSlider,
-  TurnWheel,
-  PressKey,
-  MoveMouse,
-  SizeWindow,
-  LetTimersEnd
-};
+enum class Action { PressButton, Click, DragSlider, TurnWheel, PressKey, MoveMouse, SizeWindow };
 
 /// What the user does once.
 struct Deed {
@@ -30,20 +20,17 @@ struct Deed {
   const char* name;  ///< for a file dialog that opens
 };
 
-constexpr Qt::Key kKeys[] = {Qt::Key_Tab,  Qt::Key_Tab,   Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,
-                             Qt::Key_Home, Qt::Key_End,   Qt::Key_Left,  Qt::Key_Left,    Qt::Key_Right,
-                             Qt::Key_Up,   Qt::Key_Right, Qt::Key_Down,  Qt::Key_PageUp,  Qt::Key_PageDown,
-                             Qt::Key_X,    Qt::Key_Space, Qt::Key_Space, Qt::Key_Space};
+constexpr Qt::Key kKeys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return,  Qt::Key_Space, Qt::Key_X,
+                             Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,      Qt::Key_Down,  Qt::Key_Home,
+                             Qt::Key_End,  Qt::Key_PageUp,  Qt::Key_PageDown};
 constexpr const char* kNames[] = {"a",   "odd", "odd'\"", "loud", "",
                                   "new", "n/x", "..",     "\n",   "AppPresets.ini"};
 
-/// Prints what cannot be read, and a lot of it, where the source is "loud"; bit by bit where it is "odd".
-constexpr auto kTool = R"(
-case "$*" in
+/// Prints a lot that cannot be read where the source is "loud", and bit by bit where it is "odd".
+constexpr auto kTool = R"(case "$*" in
   *loud*) cat "$0" "$0"; exit 1;;
-  *odd*) for piece in '\r\n Dur' 'ation: 00:0' '3:21\r\ntime=00:0' '1:00 \377\000ti' 'me=N/A'; do
-           printf "$piece"
-         done;;
+  *odd*) for piece in '\r\n Dur' 'ation: 00:0' '3:21\r\ntime=00:0' '1:00 \377\000ti' 'me=N/A'
+         do printf "$piece"; done;;
   *) echo ' Duration: 00:03:21.00,'
      for second in 0 1 2; do echo "size=1kB time=00:0$second:00.00 bitrate"; done;;
 esac)";
@@ -52,42 +39,35 @@ std::vector<std::string> trail;
 bool mouseIsDown = false;
 QString nameToAnswer;
 
-QPoint placeOn(const QWidget& widget, const Deed& deed) {
-  return {deed.x % std::max(1, widget.width()), deed.y % std::max(1, widget.height())};
+void click(QWidget& widget, const QPoint& place, const Deed& /*deed*/) {
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
 }
 
-void clickMouse(QWidget& widget, const Deed& deed) {
-  QTest::mouseClick(&widget, Qt::LeftButton, {}, placeOn(widget, deed));
-}
-
-void dragMouse(QWidget& widget, const Deed& deed) {
-  const QPoint end = placeOn(widget, deed);
+void drag(QWidget& widget, const QPoint& place, const Deed& deed) {
   mouseIsDown = true;
-  QTest::mousePress(&widget, Qt::LeftButton, {}, deed.manner < 8 ? widget.rect().center() : end);
+  QTest::mousePress(&widget, Qt::LeftButton, {}, deed.manner < 8 ? widget.rect().center() : place);
   if (deed.manner % 4 == 0) forms::Application::doEvents();
-  QTest::mouseMove(&widget, end);
-  QTest::mouseRelease(&widget, Qt::LeftButton, {}, end);
+  QTest::mouseMove(&widget, place);
+  QTest::mouseRelease(&widget, Qt::LeftButton, {}, place);
   mouseIsDown = false;
 }
 
-void turnWheel(QWidget& widget, const Deed& deed) {
-  const QPoint place = placeOn(widget, deed);
+void turnWheel(QWidget& widget, const QPoint& place, const Deed& deed) {
   const QPoint turned(0, deed.manner * 40 - 300);
   QWheelEvent event(place, widget.mapToGlobal(place), {}, turned, {}, {}, {}, false);
   QApplication::sendEvent(&widget, &event);
 }
 
-void pressKey(QWidget& widget, const Deed& deed) {
+void pressKey(QWidget& widget, const QPoint& /*place*/, const Deed& deed) {
   QTest::keyClick(&widget, deed.key);
 }
 
-void moveMouse(QWidget& widget, const Deed& deed) {
-  const QPoint place = placeOn(widget, deed);
+void moveMouse(QWidget& widget, const QPoint& place, const Deed& /*deed*/) {
   QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, {}, {});
   QApplication::sendEvent(&widget, &event);
 }
 
-void sizeWindow(QWidget& window, const Deed& deed) {
+void sizeWindow(QWidget& window, const QPoint& /*place*/, const Deed& deed) {
   if (deed.manner == 0) return window.showMinimized();
   if (deed.manner > 4) window.showNormal();
   if (deed.manner < 10) return;
@@ -95,48 +75,41 @@ void sizeWindow(QWidget& window, const Deed& deed) {
   window.resize(deed.x, deed.y);
 }
 
-void letTimersEnd(QWidget& /*widget*/, const Deed& /*deed*/) {
-  const auto stand = [] {
-    return !Form1->Timer3.enabled() && !(Form2.isLoaded() && Form2->Timer1.enabled());
-  };
-  EXPECT_TRUE(support::waitFor(stand)) << "a timer runs on";
-}
-
 struct Kind {
   Action action;
-  int weight;  ///< how often it comes, beside the others
+  int weight;  ///< how many of 33 actions are of this kind
   const char* words;
-  const char* widgets;  ///< the kind of widgets that it is done to
-  void (*perform)(QWidget&, const Deed&);
+  const char* target;  ///< the kind of widgets that it is done to
+  void (*perform)(QWidget&, const QPoint&, const Deed&);
 };
 
 /// In the order of the actions.
 constexpr Kind kKinds[] = {
-    {Action::PressButton, 160, "presses", "QAbstractButton", clickMouse},
-    {Action::Click, 64, "clicks", "QWidget", clickMouse},
-    {Action::DragSlider, 96, "drags", "QSlider", dragMouse},
-    {Action::TurnWheel, 48, "turns the wheel over", "QSlider", turnWheel},
-    {Action::PressKey, 96, "types into", "QWidget", pressKey},
-    {Action::MoveMouse, 32, "moves the mouse over", "QWidget", moveMouse},
-    {Action::SizeWindow, 48, "sizes the window of", "QWidget", sizeWindow},
-    {Action::LetTimersEnd, 1, "waits for all timers beside", "QWidget", letTimersEnd},
+    {Action::PressButton, 10, "presses", "QAbstractButton", click},
+    {Action::Click, 4, "clicks", "QWidget", click},
+    {Action::DragSlider, 6, "drags", "QSlider", drag},
+    {Action::TurnWheel, 3, "turns the wheel over", "QSlider", turnWheel},
+    {Action::PressKey, 6, "types into", "QWidget", pressKey},
+    {Action::MoveMouse, 2, "moves the mouse over", "QWidget", moveMouse},
+    {Action::SizeWindow, 2, "sizes", "QWidget", sizeWindow},
 };
+
+const Kind& kindOf(const Deed& deed) {
+  return kKinds[static_cast<int>(deed.action)];
+}
 
 Deed drawDeed(std::mt19937& random) {
   const auto below = [&random](std::size_t limit) { return static_cast<int>(random() % limit); };
-  std::vector<Action> actions;
-  for (const Kind& kind : kKinds)
-    actions.insert(actions.end(), static_cast<std::size_t>(kind.weight), kind.action);
-  Deed deed{};
-  deed.action = actions[static_cast<std::size_t>(below(actions.size()))];
-  deed.window = below(40);
-  deed.widget = below(1000000);
-  deed.x = below(2000);
-  deed.y = below(2000);
-  deed.manner = below(16);
-  deed.key = kKeys[below(std::size(kKeys))];
-  deed.name = kNames[below(std::size(kNames))];
-  return deed;
+  const Kind* kind = kKinds;
+  for (int left = below(33); left >= kind->weight; ++kind) left -= kind->weight;
+  return {kind->action,
+          below(40),
+          below(1000000),
+          below(2000),
+          below(2000),
+          below(16),
+          kKeys[below(std::size(kKeys))],
+          kNames[below(std::size(kNames))]};
 }
 
 /// The main window mostly; null for another that is not open.
@@ -147,28 +120,26 @@ QWidget* windowOf(const Deed& deed) {
 }
 
 /// What the deed is done to, null where it cannot be done.
-QWidget* widgetOf(const Deed& deed) {
+QWidget* targetOf(const Deed& deed) {
   if (deed.action == Action::PressKey) return QApplication::focusWidget();
   QWidget* window = windowOf(deed);
   if (window == nullptr || deed.action == Action::SizeWindow) return window;
-  const char* kind = kKinds[static_cast<int>(deed.action)].widgets;
-  QList<QWidget*> widgets = window->findChildren<QWidget*>();
-  widgets.removeIf([kind](const QWidget* widget) { return !widget->inherits(kind); });
+  auto widgets = window->findChildren<QWidget*>();
+  widgets.removeIf([&](const QWidget* widget) { return !widget->inherits(kindOf(deed).target); });
   return widgets.isEmpty() || window->isMinimized() ? nullptr : widgets[deed.widget % widgets.size()];
 }
 
 void perform(const Deed& deed, const std::string& when) {
-  QWidget* widget = widgetOf(deed);
-  if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return;
-  const Kind& kind = kKinds[static_cast<int>(deed.action)];
+  QWidget* target = targetOf(deed);
+  if (target == nullptr || !target->isVisible() || !target->isEnabled()) return;
+  const QPoint place(deed.x % std::max(1, target->width()), deed.y % std::max(1, target->height()));
   std::ostringstream words;
-  words << when << " " << kind.words << " " << widget->window()->objectName().toStdString() << " "
-        << widget->objectName().toStdString() << " at " << deed.x << ", " << deed.y << " in manner "
-        << deed.manner << ", key " << QKeySequence(deed.key).toString().toStdString() << ", name <"
-        << deed.name << ">";
+  words << when << " " << kindOf(deed).words << " " << target->window()->objectName().toStdString() << " "
+        << target->objectName().toStdString() << " (" << deed.x << ", " << deed.y << ", key " << deed.key
+        << ", manner " << deed.manner << ")";
   trail.push_back(words.str());
   nameToAnswer = deed.name;
-  kind.perform(*widget, deed);
+  kindOf(deed).perform(*target, place, deed);
   EXPECT_EQ(support::outOfStep(), "");
 }
 
@@ -196,9 +167,9 @@ std::string atRest() {
   std::ostringstream text;
   text << QApplication::topLevelWidgets().size() - Form2.isLoaded() - Form3.isLoaded() << " windows, "
        << std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {})
-       << " descriptors, children <" << support::readFile("/proc/thread-self/children")
-       << ">, main window of " << Form1->scaleWidth() << " pixels, minimised "
-       << (AppState.WindowMinimised == Form1->minimised() ? "as known" : "unknown");
+       << " descriptors, children <" << support::readFile("/proc/thread-self/children") << ">, "
+       << Form1->scaleWidth() << " pixels wide, "
+       << (AppState.WindowMinimised == Form1->minimised() ? "size known" : "size unknown");
   return text.str();
 }
 
@@ -221,28 +192,29 @@ TEST_F(RandomUser, LeavesAllInOrder) {
   answers.start(0);
 
   std::mt19937 random(static_cast<unsigned>(seed));
-  bool wasRendering = false;
+  bool wasSaving = false;
   for (int step = 1; step <= steps && !HasFailure(); ++step) {
     const Deed deed = drawDeed(random);
     const Deed meanwhile = drawDeed(random);
     const Deed inRender = drawDeed(random);
     if (random() % 4 == 0) performSoon(meanwhile);
     perform(deed, std::to_string(step));
-    if (Form2.isLoaded() && !wasRendering) {
+    if (!std::exchange(wasSaving, Form2.isLoaded()) && Form2.isLoaded())
       Form2->Timer1.onTick = [inRender](int) {
         performSoon(inRender);
         Form2->Timer1_Timer();
       };
-    }
-    wasRendering = Form2.isLoaded();
     forms::Application::doEvents();
-    EXPECT_EQ(support::outOfStep(), "");
     EXPECT_TRUE(support::waitFor([&] { return atRest() == before; })) << atRest() << " instead of " << before;
     if (!HasFailure()) continue;
     std::cout << "seed " << seed << ", step " << step << ":\n";
-    const std::size_t old = trail.size() > 20 ? trail.size() - 20 : 0;
-    for (std::size_t i = old; i < trail.size(); ++i) std::cout << trail[i] << "\n";
+    for (std::size_t i = trail.size() - std::min<std::size_t>(trail.size(), 20); i < trail.size(); ++i)
+      std::cout << trail[i] << "\n";
   }
+  const auto stand = [] {
+    return !Form1->Timer3.enabled() && !(Form2.isLoaded() && Form2->Timer1.enabled());
+  };
+  EXPECT_TRUE(support::waitFor(stand)) << "a timer runs on";
 }
 
 }  // namespace

@@ -23,11 +23,11 @@ class Limit {
   rlimit before_{};
 };
 
-/// Bytes of memory of this process, all or resident alone.
-inline std::size_t memory(bool resident) {
-  std::size_t all = 0, inUse = 0;
-  std::ifstream("/proc/self/statm") >> all >> inUse;
-  return (resident ? inUse : all) * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+/// Bytes of memory of this process.
+inline std::size_t memory() {
+  std::size_t pages = 0;
+  std::ifstream("/proc/self/statm") >> pages;
+  return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
 }  // namespace support

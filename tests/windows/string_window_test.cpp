@@ -65,14 +65,6 @@ TEST_F(StringWindow, ListsOneFilterALine) {
   EXPECT_TRUE(Form3->Text1.enabled() && Form3->Command1(0).enabled());
 }
 
-TEST_F(StringWindow, ListsAChainThatIsComposedMeanwhile) {
-  compose();
-  QTimer::singleShot(1, [] { Form1->Slider1(4).setValue(-8); });
-  click(Form3->Command1(2));
-  EXPECT_EQ(Form1->Slider1(4).value(), -8);
-  EXPECT_EQ(Form3->Text1.text(), listed());
-}
-
 TEST_F(StringWindow, SaysThatItIsDoneForAWhileAfterTheLastListing) {
   compose();
   click(Form3->Command1(2));

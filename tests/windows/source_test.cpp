@@ -53,7 +53,7 @@ TEST_F(Source, IsMeasuredInWholeSecondsWhateverItsTags) {
 
 TEST_F(Source, ASecondOneChosenInsideTheFirstProbeWins) {
   support::writeScript(folder, "ffprobe", R"(case "$4" in
-      *first*) echo ' Duration: 00:00:01'; until [ -e "$0.go" ]; do sleep 0.01; done;;
+      *first*) echo ' Duration: 00:00:01'; timeout 20 sh -c 'until [ -e "$0.go" ]; do sleep 0.01; done' "$0";;
       *) echo > "$0.go"; echo ' Duration: 00:00:02';;
       esac)");
   const std::string second = support::writeText(folder, "second.wav", "");

@@ -2,21 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <numeric>
-
 namespace {
-
-TEST(PresetLine, HoldsThePositionsAndFourMarkedFields) {
-  std::array<int, 32> positions{};
-  std::iota(positions.begin(), positions.begin() + 19, -6);
-  AppStateRecord state;
-  state.LowCutIndex = 0;
-  state.BandWidth = 25;
-  state.AudioGain = 7 / 5.0;
-  EXPECT_EQ(presetLine(positions, state),
-            "-6:-5:-4:-3:-2:-1:0:1:2:3:4:5:6:7:8:9:10:11:12:0:0:0:0:0:0:0:0:0:0:0:0:0:"
-            "LowCut=0:Range=0:BandWidth=025:AudioGain=140");
-}
 
 TEST(PresetLine, AGainIsTheNearestPosition) {
   const std::pair<const char*, std::optional<long long>> rows[] = {

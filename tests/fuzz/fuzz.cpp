@@ -1,6 +1,6 @@
 // What any preset file, preset line, command line and tool output may do to the program. The name of the
 // process says which of the four the inputs are.
-#include <cstring>
+#include <set>
 #include <stdexcept>
 
 #include "forms/application.h"
@@ -24,6 +24,16 @@ std::string read(const char* section) {
   return platform::profileString(section, "Frequency", "1", 1024, AppState.PresetFilePath);
 }
 
+/// The lines of a text, each with its end.
+std::multiset<std::string> linesOf(const std::string& text) {
+  std::multiset<std::string> lines;
+  for (std::size_t begin = 0, end = 0; begin < text.size(); begin = end) {
+    end = std::min(text.find('\n', begin), text.size() - 1) + 1;
+    lines.insert(text.substr(begin, end - begin));
+  }
+  return lines;
+}
+
 void profile(const std::string& before) {
   const std::string file = platform::programFolder() + "/AppPresets.ini";
   platform::writeFile(file, before);
@@ -31,18 +41,9 @@ void profile(const std::string& before) {
   require(platform::writeProfileString("Preset#1", "Frequency", "-1:2", file), "any file takes a preset");
   require(read("Preset#1") == "-1:2", "the preset comes back");
   require(read("Preset#2") == other, "the other preset stays");
-  const std::string after = support::readFile(file);
-  const auto [oldBegin, newBegin] = std::ranges::mismatch(before, after);
-  const auto [oldEnd, newEnd] = std::mismatch(before.rbegin(), std::reverse_iterator(oldBegin),
-                                              after.rbegin(), std::reverse_iterator(newBegin));
-  const std::string removed(oldBegin, oldEnd.base());
-  const std::string added(newBegin, newEnd.base());
-  const std::string rest(newEnd.base(), after.end());
-  require(!removed.ends_with('\r') || !rest.starts_with('\n'), "a line keeps its end");
-  // What is equal in front may reach into the new lines, which end behind it.
-  const bool one = removed.empty() ? added.size() <= std::strlen("\r\n[Preset#1]\r\nFrequency=-1:2\r\n")
-                                   : (removed + added).find('\n') == std::string::npos;
-  require(one, "one line changes, not \"" + removed + "\" to \"" + added + "\"");
+  std::vector<std::string> lost;
+  std::ranges::set_difference(linesOf(before), linesOf(support::readFile(file)), std::back_inserter(lost));
+  require(lost.size() <= 1, "one line changes");
 }
 
 void requireInStep() {
@@ -50,16 +51,21 @@ void requireInStep() {
   require(fault.empty(), fault);
 }
 
+void startAfresh() {
+  for (const int range : {1, 0}) Form1->Option2(range).setValue(true);  // Any change puts all bands to 0.
+  Form1->Option3(1).setValue(true);
+  Form1->Slider2.setValue(5);
+  Form1->Slider3.setValue(1);
+}
+
 void preset(const std::string& line) {
   platform::writeFile(platform::programFolder() + "/AppPresets.ini", "[Preset#1]\nFrequency=" + line);
+  startAfresh();
   SelectPreset(1);
   requireInStep();
   const std::vector<int> loaded = support::positions();
   SavePreset();
-  Form1->Option2(1 - loaded[0]).setValue(true);  // Puts all bands to 0.
-  Form1->Option3(1 - loaded[1]).setValue(true);
-  Form1->Slider2.setValue(-loaded[2]);
-  Form1->Slider3.setValue(255 - loaded[3]);
+  startAfresh();
   LoadPreset(1);
   requireInStep();
   require(support::positions() == loaded, "what was saved comes back");
@@ -71,12 +77,6 @@ void command(const std::string& text) {
   for (const std::string& argument : arguments) line += platform::quoteArgument(argument) + " ";
   require(platform::splitArguments(line) == arguments, "quoted arguments come back");
   platform::parseCommand(platform::programFolder() + text);
-  const std::string path = platform::programFolder() + "/." + text.c_str();
-  if (text.find('/') < text.size() || !platform::writeFile(path, "")) return;
-  const std::vector<std::string> expected{"-i", path, "-af"};
-  require(platform::splitArguments("-i " + platform::quotedPath(path) + " -af") == expected,
-          "a path is one argument");
-  std::filesystem::remove(path);
 }
 
 bool isNumber(const std::string& text, std::size_t length, double most) {

@@ -21,20 +21,6 @@ TEST(CommandLine, SplitsAtBlanksAndTabsOutsideQuotes) {
     EXPECT_EQ(platform::splitArguments(line), expected) << "of <" << line << ">";
 }
 
-TEST(CommandLine, APathIsOneArgumentWhateverItsName) {
-  const support::OwnFolder own;
-  for (const char* name : {"file", "tab\tquote\".wav", "back\\slash"}) {
-    const auto relative = std::filesystem::relative(support::writeText(own, name, ""));
-    const std::string path = std::filesystem::absolute(relative);
-    const std::string quoted = platform::quotedPath(relative);
-    EXPECT_EQ(platform::splitArguments("-i " + quoted), (Arguments{"-i", path}));
-    EXPECT_EQ(platform::unquotedPath(quoted), path);
-  }
-  EXPECT_EQ(platform::quotedPath("/usr"), "/usr") << "no quotes where none are needed";
-  EXPECT_EQ(platform::quotedPath(own.file("missing")), "");
-  EXPECT_EQ(platform::unquotedPath(""), "");
-}
-
 TEST(CommandLine, FindsThePrograms) {
   const support::OwnFolder own;
   const std::string& folder = own.path();

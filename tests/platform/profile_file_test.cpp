@@ -1,10 +1,10 @@
 #include "platform/profile_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <csignal>
 
-#include "support/limit.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -84,9 +84,13 @@ TEST_F(ProfileFile, KeepsLinksAndPermissions) {
 TEST_F(ProfileFile, AFullDiskLeavesTheOldTextAndNoOtherFile) {
   const std::string file = own_.file("file");
   EXPECT_TRUE(write(file, "1"));
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit full{4096, before.rlim_max};
   signal(SIGXFSZ, SIG_IGN);
-  const support::Limit full(RLIMIT_FSIZE, 4096);
+  setrlimit(RLIMIT_FSIZE, &full);
   EXPECT_FALSE(write(file, std::string(4500, '2')));
+  setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(read(file), "1");
   EXPECT_EQ(std::distance(fs::directory_iterator(own_.path()), {}), 1);
 }

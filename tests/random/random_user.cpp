@@ -8,17 +8,8 @@
 
 namespace {
 
-enum class Action { PressButton, Click, DragSlider, TurnWheel, PressKey, MoveMouse, SizeWindow };
-
-/// What the user does once.
-struct Deed {
-  Action action;
-  int window, widget;  ///< which of those that there are
-  int x, y;            ///< a place on the widget, or the window's new size
-  int manner;          ///< 0 to 15
-  Qt::Key key;
-  const char* name;  ///< for a file dialog that opens
-};
+/// Where everything about one action is drawn from, so that its number says it all.
+using Dice = std::mt19937;
 
 constexpr Qt::Key kKeys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return,  Qt::Key_Space, Qt::Key_X,
                              Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,      Qt::Key_Down,  Qt::Key_Home,
@@ -39,117 +30,110 @@ std::vector<std::string> trail;
 bool mouseIsDown = false;
 QString nameToAnswer;
 
-void click(QWidget& widget, const QPoint& place, const Deed& /*deed*/) {
-  QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
+int below(int limit, Dice& dice) {
+  return static_cast<int>(dice() % static_cast<unsigned>(std::max(1, limit)));
 }
 
-void drag(QWidget& widget, const QPoint& place, const Deed& deed) {
+QPoint placeOn(const QWidget& widget, Dice& dice) {
+  const int x = below(widget.width(), dice);
+  return {x, below(widget.height(), dice)};
+}
+
+void click(QWidget& widget, Dice& dice) {
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, placeOn(widget, dice));
+}
+
+void drag(QWidget& widget, Dice& dice) {
+  const QPoint end = placeOn(widget, dice);
   mouseIsDown = true;
-  QTest::mousePress(&widget, Qt::LeftButton, {}, deed.manner < 8 ? widget.rect().center() : place);
-  if (deed.manner % 4 == 0) forms::Application::doEvents();
-  QTest::mouseMove(&widget, place);
-  QTest::mouseRelease(&widget, Qt::LeftButton, {}, place);
+  QTest::mousePress(&widget, Qt::LeftButton, {}, below(2, dice) == 0 ? widget.rect().center() : end);
+  if (below(4, dice) == 0) forms::Application::doEvents();
+  QTest::mouseMove(&widget, end);
+  QTest::mouseRelease(&widget, Qt::LeftButton, {}, end);
   mouseIsDown = false;
 }
 
-void turnWheel(QWidget& widget, const QPoint& place, const Deed& deed) {
-  const QPoint turned(0, deed.manner * 40 - 300);
-  QWheelEvent event(place, widget.mapToGlobal(place), {}, turned, {}, {}, {}, false);
+void turnWheel(QWidget& widget, Dice& dice) {
+  const QPoint turned(0, below(600, dice) - 300);
+  QWheelEvent event({}, {}, {}, turned, {}, {}, {}, false);
   QApplication::sendEvent(&widget, &event);
 }
 
-void pressKey(QWidget& widget, const QPoint& /*place*/, const Deed& deed) {
-  QTest::keyClick(&widget, deed.key);
+void pressKey(QWidget& widget, Dice& dice) {
+  QTest::keyClick(&widget, kKeys[below(std::size(kKeys), dice)]);
 }
 
-void moveMouse(QWidget& widget, const QPoint& place, const Deed& /*deed*/) {
-  QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, {}, {});
-  QApplication::sendEvent(&widget, &event);
-}
-
-void sizeWindow(QWidget& window, const QPoint& /*place*/, const Deed& deed) {
-  if (deed.manner == 0) return window.showMinimized();
-  if (deed.manner > 4) window.showNormal();
-  if (deed.manner < 10) return;
+void sizeWindow(QWidget& window, Dice& dice) {
+  if (below(10, dice) == 0) return window.showMinimized();
+  window.showNormal();
   window.setMinimumSize(0, 0);
-  window.resize(deed.x, deed.y);
+  const int width = below(2000, dice);
+  window.resize(width, below(2000, dice));
 }
+
+enum class Action { PressButton, Click, DragSlider, TurnWheel, PressKey, SizeWindow };
 
 struct Kind {
   Action action;
-  int weight;  ///< how many of 33 actions are of this kind
+  int weight;  ///< how many of 100 actions are of this kind
   const char* words;
   const char* target;  ///< the kind of widgets that it is done to
-  void (*perform)(QWidget&, const QPoint&, const Deed&);
+  void (*perform)(QWidget&, Dice&);
 };
 
-/// In the order of the actions.
 constexpr Kind kKinds[] = {
-    {Action::PressButton, 10, "presses", "QAbstractButton", click},
-    {Action::Click, 4, "clicks", "QWidget", click},
-    {Action::DragSlider, 6, "drags", "QSlider", drag},
-    {Action::TurnWheel, 3, "turns the wheel over", "QSlider", turnWheel},
-    {Action::PressKey, 6, "types into", "QWidget", pressKey},
-    {Action::MoveMouse, 2, "moves the mouse over", "QWidget", moveMouse},
-    {Action::SizeWindow, 2, "sizes", "QWidget", sizeWindow},
+    {Action::PressButton, 32, "presses", "QAbstractButton", click},
+    {Action::Click, 14, "clicks", "QWidget", click},
+    {Action::DragSlider, 18, "drags", "QSlider", drag},
+    {Action::TurnWheel, 9, "turns the wheel over", "QSlider", turnWheel},
+    {Action::PressKey, 18, "types into", "QWidget", pressKey},
+    {Action::SizeWindow, 9, "sizes", "QWidget", sizeWindow},
 };
 
-const Kind& kindOf(const Deed& deed) {
-  return kKinds[static_cast<int>(deed.action)];
-}
-
-Deed drawDeed(std::mt19937& random) {
-  const auto below = [&random](std::size_t limit) { return static_cast<int>(random() % limit); };
+const Kind& drawKind(Dice& dice) {
   const Kind* kind = kKinds;
-  for (int left = below(33); left >= kind->weight; ++kind) left -= kind->weight;
-  return {kind->action,
-          below(40),
-          below(1000000),
-          below(2000),
-          below(2000),
-          below(16),
-          kKeys[below(std::size(kKeys))],
-          kNames[below(std::size(kNames))]};
+  for (int left = below(100, dice); left >= kind->weight; ++kind) left -= kind->weight;
+  return *kind;
 }
 
 /// The main window mostly; null for another that is not open.
-QWidget* windowOf(const Deed& deed) {
-  if (deed.window < 32) return Form1->Label6.widget()->window();
-  if (deed.window < 39) return Form3.isLoaded() ? Form3->Text1.widget()->window() : nullptr;
+QWidget* drawWindow(Dice& dice) {
+  const int window = below(40, dice);
+  if (window < 32) return Form1->Label6.widget()->window();
+  if (window < 39) return Form3.isLoaded() ? Form3->Text1.widget()->window() : nullptr;
   return Form2.isLoaded() ? Form2->Command1.widget()->window() : nullptr;
 }
 
-/// What the deed is done to, null where it cannot be done.
-QWidget* targetOf(const Deed& deed) {
-  if (deed.action == Action::PressKey) return QApplication::focusWidget();
-  QWidget* window = windowOf(deed);
-  if (window == nullptr || deed.action == Action::SizeWindow) return window;
+/// What is there for that kind of action, null where there is nothing.
+QWidget* drawTarget(const Kind& kind, Dice& dice) {
+  if (kind.action == Action::PressKey) return QApplication::focusWidget();
+  QWidget* window = drawWindow(dice);
+  if (window == nullptr || kind.action == Action::SizeWindow) return window;
   auto widgets = window->findChildren<QWidget*>();
-  widgets.removeIf([&](const QWidget* widget) { return !widget->inherits(kindOf(deed).target); });
-  return widgets.isEmpty() || window->isMinimized() ? nullptr : widgets[deed.widget % widgets.size()];
+  widgets.removeIf([&](const QWidget* widget) { return !widget->inherits(kind.target); });
+  if (widgets.isEmpty() || window->isMinimized()) return nullptr;
+  return widgets[below(static_cast<int>(widgets.size()), dice)];
 }
 
-void perform(const Deed& deed, const std::string& when) {
-  QWidget* target = targetOf(deed);
+void perform(unsigned number, const std::string& when) {
+  Dice dice(number);
+  const Kind& kind = drawKind(dice);
+  QWidget* target = drawTarget(kind, dice);
   if (target == nullptr || !target->isVisible() || !target->isEnabled()) return;
-  const QPoint place(deed.x % std::max(1, target->width()), deed.y % std::max(1, target->height()));
-  std::ostringstream words;
-  words << when << " " << kindOf(deed).words << " " << target->window()->objectName().toStdString() << " "
-        << target->objectName().toStdString() << " (" << deed.x << ", " << deed.y << ", key " << deed.key
-        << ", manner " << deed.manner << ")";
-  trail.push_back(words.str());
-  nameToAnswer = deed.name;
-  kindOf(deed).perform(*target, place, deed);
+  trail.push_back(when + " " + kind.words + " " + target->window()->objectName().toStdString() + " " +
+                  target->objectName().toStdString());
+  nameToAnswer = kNames[below(std::size(kNames), dice)];
+  kind.perform(*target, dice);
   EXPECT_EQ(support::outOfStep(), "");
 }
 
 /// Does it with coming events: outside of drags, of dialogs and of waits for a tool.
-void performSoon(const Deed& deed) {
-  const auto due = [deed] {
+void performSoon(unsigned number) {
+  const auto due = [number] {
     if (mouseIsDown || QApplication::activeModalWidget() != nullptr || support::isHeldBack())
-      performSoon(deed);
+      performSoon(number);
     else
-      perform(deed, "  in the middle");
+      perform(number, "  in the middle");
   };
   QMetaObject::invokeMethod(qApp, due, Qt::QueuedConnection);
 }
@@ -179,7 +163,6 @@ TEST_F(RandomUser, LeavesAllInOrder) {
   const auto arguments = testing::internal::GetArgvs();
   const int steps = arguments.size() > 1 ? std::stoi(arguments[1]) : 3000;
   const int seed = arguments.size() > 2 ? std::stoi(arguments[2]) : 1;
-  std::cout << steps << " steps, seed " << seed << std::endl;
   for (const char* tool : {"ffprobe", "ffplay", "ffmpeg"}) support::writeScript(folder, tool, kTool);
   for (const char* name : {"a", "odd", "odd'\"", "loud"}) support::writeText(folder, name, "sound");
   Form1->Command1(10).onClick = nullptr;  // Would end the process.
@@ -191,14 +174,12 @@ TEST_F(RandomUser, LeavesAllInOrder) {
   QObject::connect(&answers, &QTimer::timeout, &answerDialog);
   answers.start(0);
 
-  std::mt19937 random(static_cast<unsigned>(seed));
+  Dice numbers(static_cast<unsigned>(seed));
   bool wasSaving = false;
   for (int step = 1; step <= steps && !HasFailure(); ++step) {
-    const Deed deed = drawDeed(random);
-    const Deed meanwhile = drawDeed(random);
-    const Deed inRender = drawDeed(random);
-    if (random() % 4 == 0) performSoon(meanwhile);
-    perform(deed, std::to_string(step));
+    if (below(4, numbers) == 0) performSoon(numbers());
+    perform(numbers(), std::to_string(step));
+    const unsigned inRender = numbers();
     if (!std::exchange(wasSaving, Form2.isLoaded()) && Form2.isLoaded())
       Form2->Timer1.onTick = [inRender](int) {
         performSoon(inRender);
@@ -206,15 +187,15 @@ TEST_F(RandomUser, LeavesAllInOrder) {
       };
     forms::Application::doEvents();
     EXPECT_TRUE(support::waitFor([&] { return atRest() == before; })) << atRest() << " instead of " << before;
-    if (!HasFailure()) continue;
-    std::cout << "seed " << seed << ", step " << step << ":\n";
-    for (std::size_t i = trail.size() - std::min<std::size_t>(trail.size(), 20); i < trail.size(); ++i)
-      std::cout << trail[i] << "\n";
   }
   const auto stand = [] {
     return !Form1->Timer3.enabled() && !(Form2.isLoaded() && Form2->Timer1.enabled());
   };
   EXPECT_TRUE(support::waitFor(stand)) << "a timer runs on";
+  std::cout << steps << " steps, seed " << seed << ", " << trail.size() << " actions\n";
+  if (!HasFailure()) return;
+  for (std::size_t i = trail.size() - std::min<std::size_t>(trail.size(), 30); i < trail.size(); ++i)
+    std::cout << trail[i] << "\n";
 }
 
 }  // namespace

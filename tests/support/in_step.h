@@ -29,8 +29,8 @@ inline void compareBand(Differences& differences, int i, int limit) {
   const std::string name = " of band " + std::to_string(i);
   differences.compare("range" + name, std::max({band.max(), -band.min(), std::abs(value)}), limit);
   differences.compare("ticks" + name, band.tickFrequency(), limit / 6);
-  differences.compare("left end of the bar" + name, bar.x1(), band.left() - 5);
-  differences.compare("right end of the bar" + name, bar.x2(), band.left() - 5);
+  for (const double x : {bar.x1(), bar.x2()})
+    differences.compare("place of the bar" + name, x, band.left() - 5);
   differences.compare("bar shown" + name, bar.visible(), Form1->Check1.value() == 1);
   const std::string turned = value < 0 ? std::to_string(-value) : "-" + std::to_string(value);
   const double length = bar.y1() - bar.y2();
@@ -82,10 +82,10 @@ inline std::string outOfStep() {
   for (const auto& [found, expected] : captions) differences.compare("caption", found, expected);
   const int lowCut = AppState.LowCutOn ? 0 : 1;
   differences.compare("LowCutIndex", AppState.LowCutIndex, lowCut);
-  differences.compare("chosen low cut", Form1->Option3(lowCut).value(), true);
-  differences.compare("other low cut", Form1->Option3(1 - lowCut).value(), false);
-  differences.compare("chosen range", Form1->Option2(range).value(), true);
-  differences.compare("other range", Form1->Option2(1 - range).value(), false);
+  for (const int i : {0, 1}) {
+    differences.compare("choice of the low cut", Form1->Option3(i).value(), i == lowCut);
+    differences.compare("choice of the range", Form1->Option2(i).value(), i == range);
+  }
   differences.compare("AudioGain", AppState.AudioGain, gain / 5.0);
   differences.compare("length of the gain bar", Form1->Line10.x1() - Form1->Line10.x2(), gain * 12.5);
   differences.compare("BandWidth", AppState.BandWidth, Form1->Slider3.value());

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "support/limit.h"
 #include "support/temp_folder.h"
 #include "tools/dos_outputs.h"
 
@@ -51,26 +50,5 @@ TEST_F(Runner, LetsTheHandlerChangeItsCopyAndCutTheConnectionAtOnce) {
             std::string("a\0b\377two\n", 8));
   EXPECT_EQ(pieces, std::vector<std::string>{std::string("a\0b\377", 4)});
 }
-
-TEST_F(Runner, RunsNothingWithoutADescriptorForThePipe) {
-  const auto runner = start("echo");
-  const support::Limit none(RLIMIT_NOFILE, 3);
-  EXPECT_EQ(runner->ExecuteCommand(), "");
-}
-
-#ifndef TESSAVANE_SANITIZED  // The sanitizer itself needs more than any such limit.
-TEST_F(Runner, HandsOnWhatThereIsNoMemoryToKeep) {
-  const auto runner = start("head -c 150000000 /dev/zero");
-  std::size_t handedOn = 0;
-  then = [&](std::string& piece) {
-    handedOn += piece.size();
-    pieces.clear();
-  };
-  const support::Limit limit(RLIMIT_AS, support::memory() + 70000000);
-  const std::size_t kept = runner->ExecuteCommand().size();
-  EXPECT_EQ(handedOn, 150000000U);
-  EXPECT_GT(kept, 1000000U);
-}
-#endif
 
 }  // namespace

@@ -22,7 +22,7 @@ TEST_F(Source, OpensTheButtonsAndShowsThePath) {
   EXPECT_FALSE(QSettings("QtProject").isWritable()) << "the dialog keeps settings in the home";
 }
 
-TEST_F(Source, ACancelLeavesTheOneBefore) {
+TEST_F(Source, ACancelLeavesTheOneBeforeAndAFileThatIsNotThereNone) {
   openSource("");
   EXPECT_EQ(Form1->Text1.text(), "<%InputFile%>");
   EXPECT_FALSE(Form1->Command1(3).enabled());
@@ -31,9 +31,6 @@ TEST_F(Source, ACancelLeavesTheOneBefore) {
   openSource("");
   EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
   EXPECT_EQ(Form1->Text1.backColor(), forms::kButtonFace);
-}
-
-TEST_F(Source, AFileThatIsNotThereIsNone) {
   openSource(folder.file("not there.wav"));
   EXPECT_EQ(AppState.SourcePathShort, "");
   EXPECT_EQ(Form1->Text1.text(), "");
@@ -75,12 +72,6 @@ TEST_F(Source, PreviewComposesAfreshAndHandsTheChainToThePlayer) {
             "-i\n" + path + "\n-af\nvolume=1," + AppState.EqString + "\n");
   for (const std::string& text : AppState.BandGainText) EXPECT_EQ(text, "-0");
   EXPECT_EQ(AppState.SourceSeconds, "4");
-}
-
-TEST_F(Source, PreviewWithoutAPlayerEndsAtOnce) {
-  openSource(support::writeText(folder, "a.wav", ""));
-  click(Form1->Command1(2));
-  EXPECT_EQ(Form1->objDOS.get(), nullptr);
 }
 
 }  // namespace

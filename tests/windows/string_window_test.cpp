@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QClipboard>
 #include <QPlainTextEdit>
 #include <QWindow>
@@ -17,25 +19,14 @@ class StringWindow : public support::Session {
   static std::string listed() { return chain().replace(",", "\r\n").toStdString(); }
 };
 
-TEST_F(StringWindow, BelongsToTheMainWindow) {
-  EXPECT_EQ(windowOf(Form3->Text1)->windowHandle()->transientParent(),
-            windowOf(Form1->Label6)->windowHandle());
-}
-
-TEST_F(StringWindow, ShowsEveryChainAndStandsEmptyWhenItIsOpenedAnew) {
+TEST_F(StringWindow, StandsOverItsOwnerWithEveryChainAndEmptyWhenItIsOpenedAnew) {
+  EXPECT_EQ(box().window()->windowHandle()->transientParent(), windowOf(Form1->Label6)->windowHandle());
   compose();
   forms::Application::doEvents();
   EXPECT_EQ(box().toPlainText(), chain());
   click(Form3->Command1(1));
   open();
   EXPECT_EQ(Form3->Text1.text(), "");
-}
-
-TEST_F(StringWindow, ShowsTheChainThatWasComposedBeforeItOpens) {
-  click(Form3->Command1(1));
-  compose();
-  open();
-  EXPECT_EQ(box().toPlainText(), chain());
 }
 
 TEST_F(StringWindow, MovesItsControlsWithItsSize) {
@@ -95,12 +86,14 @@ TEST_F(StringWindow, CopiesWhatTheBoxShowsAndTellsUntilItIsEdited) {
   EXPECT_EQ(Form3->Command1(3).caption(), "Copy to Clipboard");
 }
 
-TEST_F(StringWindow, SavesWhatTheBoxShowsButNotOverTheSource) {
+TEST_F(StringWindow, SavesWhatTheBoxShowsButNotOverTheSourceNorIntoAPipe) {
   const std::string source = support::writeText(folder, "source.wav", "sound");
   openSource(source);
   compose();
   QTest::keyClick(&box(), Qt::Key_Return);
-  for (const std::string& answer : {folder.file("chain"), source}) clickAndAnswer(Form3->Command1(0), answer);
+  mkfifo(folder.file("pipe").c_str(), 0600);
+  for (const std::string& path : {folder.file("chain"), source, folder.file("pipe")})
+    clickAndAnswer(Form3->Command1(0), path);
   EXPECT_EQ(shownFilter, "Text Files (*.txt)");
   EXPECT_EQ(support::readFile(folder.file("chain")), "\r\n" + AppState.EqString + "\r\n");
   EXPECT_EQ(support::readFile(source), "sound");

@@ -52,6 +52,9 @@ class Style : public QProxyStyle {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
       return;
     }
+    // The parts are drawn in their own size. Smoothed all the same, each is filled span by span, and Qt hands
+    // the spans to threads that have to be started first.
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
     QStyleOptionSlider part = *slider;
     part.subControls = slider->subControls & ~SC_SliderHandle;
     part.palette = groove_;

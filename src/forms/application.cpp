@@ -1,5 +1,7 @@
 #include "forms/application.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
@@ -12,6 +14,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -84,7 +87,11 @@ Application::Application() {
   QApplication::setAttribute(Qt::AA_Use96Dpi);
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+  // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it to
+  // do with the first text.
+  std::thread fonts([] { FcInit(); });
   application = new QApplication(count, arguments);
+  fonts.join();
   applyStyle();
   QApplication::setWindowIcon(windowIcon());
   QApplication::setQuitOnLastWindowClosed(false);

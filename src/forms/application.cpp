@@ -87,8 +87,8 @@ Application::Application() {
   QApplication::setAttribute(Qt::AA_Use96Dpi);
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-  // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it to
-  // do with the first text.
+  // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
+  // to do with the first text.
   std::thread fonts([] { FcInit(); });
   application = new QApplication(count, arguments);
   fonts.join();

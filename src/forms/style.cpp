@@ -116,8 +116,8 @@ QColor toQt(Color color) {
 }
 
 QFont fontOf(double points, bool bold) {
-  // Where it is missing, fontconfig names a font of the same widths, as Liberation Sans, so that the layout is the
-  // same with either. A list of names here would be searched name by name.
+  // Where it is missing, fontconfig names a font of the same widths, as Liberation Sans, so that the layout
+  // is the same with either. A list of names here would be searched name by name.
   QFont font("Arial");
   font.setPointSizeF(points);
   font.setBold(bold);

@@ -69,11 +69,29 @@ class Wait : public QObject {
   std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> keys_;
 };
 
-QIcon windowIcon() {
+/// Gives all windows their icon behind the first frame: for the first picture file Qt looks through all its
+/// picture plug-ins.
+class LateIcon : public QObject {
+ public:
+  explicit LateIcon(QObject* application) : QObject(application) { application->installEventFilter(this); }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    deleteLater();
+    QCoreApplication::instance()->removeEventFilter(this);
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &readIcon, Qt::QueuedConnection);
+    return false;
+  }
+
+ private:
+  static void readIcon();
+};
+
+void LateIcon::readIcon() {
   QIcon icon;
   for (const char* size : {"16x16", "32x32", "48x48"})
     icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size));
-  return icon;
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
@@ -93,7 +111,7 @@ Application::Application() {
   application = new QApplication(count, arguments);
   fonts.join();
   applyStyle();
-  QApplication::setWindowIcon(windowIcon());
+  new LateIcon(application);
   QApplication::setQuitOnLastWindowClosed(false);
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QPointer>
 #include <QSettings>
@@ -14,7 +15,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -106,16 +106,18 @@ Application::Application() {
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
-  // to do with the first text.
-  std::thread fonts([] { FcInit(); });
+  // to do with the first text; and Qt makes its own list of the fonts while the first controls are made.
+  std::thread fontconfig([] { FcInit(); });
   application = new QApplication(count, arguments);
-  fonts.join();
+  fontconfig.join();
+  fonts_ = std::thread([] { QFontDatabase::families(); });
   applyStyle();
   new LateIcon(application);
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
 Application::~Application() {
+  fonts_.join();
   delete application;
   application = nullptr;
 }

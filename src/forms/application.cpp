@@ -76,9 +76,12 @@ QIcon windowIcon() {
 }  // namespace
 
 Application::Application() {
-  static char name[] = "tessavane";
-  static char* arguments[] = {name, nullptr};
-  static int count = 1;
+  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a program
+  // that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is not
+  // inherited by child processes, as a changed environment would be.
+  static char name[] = "tessavane", option[] = "-platformtheme", theme[] = "generic";
+  static char* arguments[] = {name, option, theme, nullptr};
+  static int count = 3;
 
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_Use96Dpi);

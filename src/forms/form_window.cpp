@@ -24,7 +24,10 @@ class FormSurface : public Surface {
   QSize outerSize() const { return size().grownBy(frame()); }
   /// Brings the window to the outer size of its form.
   void applyOuterSize();
-  /// Prepares the first show: in the middle of the owner's window, or of the screen where there is none.
+  /// Prepares the first show: the outer size alone.
+  void prepareSize();
+  /// Prepares the first show in its final size: in the middle of the owner's window, or of the screen where
+  /// there is none.
   void standBeside(const FormSurface* owner);
   /// Shows the window, in its normal state if it is minimised, in front of the others.
   void bringForward();
@@ -96,16 +99,18 @@ void FormSurface::applyOuterSize() {
     resize(requestedSize_);
 }
 
-void FormSurface::standBeside(const FormSurface* owner) {
+void FormSurface::prepareSize() {
   applyOuterSize();
+  reportedSize_ = size();
+}
+
+void FormSurface::standBeside(const FormSurface* owner) {
   const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
   centre_ = (owner != nullptr ? owner->frameGeometry() : screenArea).center();
   centre();
-  if (owner != nullptr) {
-    winId();
-    windowHandle()->setTransientParent(owner->windowHandle());
-  }
-  reportedSize_ = size();
+  if (owner == nullptr) return;
+  winId();
+  windowHandle()->setTransientParent(owner->windowHandle());
 }
 
 void FormSurface::centre() {
@@ -236,9 +241,10 @@ void FormWindow::load(std::function<void()> forget) {
 void FormWindow::show(const FormWindow* owner) {
   if (!loaded_) return;
   if (!window_->isVisible()) {
-    window_->standBeside(owner != nullptr ? owner->window_.get() : nullptr);
+    window_->prepareSize();
     raise(onResize);
     if (!loaded_) return;
+    window_->standBeside(owner != nullptr ? owner->window_.get() : nullptr);
   }
   window_->bringForward();
 }

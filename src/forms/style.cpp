@@ -115,7 +115,8 @@ QColor toQt(Color color) {
 QFont fontOf(double points, bool bold) {
   // Liberation Sans has the widths of Arial, so that the layout is the same with either.
   QFont font(QStringList{"Arial", "Liberation Sans", "Arimo", "Helvetica"});
-  font.setPointSizeF(points);
+  // In pixels: how many a point has is the desktop's choice, and the layout's are fixed.
+  font.setPixelSize(qRound(points * 96 / 72));
   font.setBold(bold);
   return font;
 }

@@ -21,7 +21,7 @@ inline std::string fromQt(const QString& text) {
 
 QColor toQt(Color color);
 
-/// The program's font in a size in points, at 72 points to 96 pixels.
+/// The program's font in a size in points, at 72 points to 96 pixels, in whole pixels.
 QFont fontOf(double points, bool bold);
 
 /// Fills the outermost pixels of `extent`, whole ones on scaled screens too.

@@ -92,7 +92,11 @@ QMargins FormSurface::frame() const {
 void FormSurface::applyOuterSize() {
   assumedFrame_ = frame();
   const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
+  const bool isForced = oneSize_ && isVisible() && size() != requestedSize_;
   requestedSize_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
+  // A manager that has overruled the size once, as tiling ones do, refuses any other without a word to Qt, which
+  // would not paint the rest of the window.
+  if (isForced) return;
   if (oneSize_)
     setFixedSize(requestedSize_);
   else
@@ -117,7 +121,9 @@ void FormSurface::centre() {
   QRect place({0, 0}, outerSize());
   place.moveCenter(centre_);
   const QRect screenArea = screen()->availableGeometry();
-  move(std::max(place.left(), screenArea.left()), std::max(place.top(), screenArea.top()));
+  const QPoint last = screenArea.bottomRight() - place.bottomRight() + place.topLeft();
+  move(std::max(std::min(place.left(), last.x()), screenArea.left()),
+       std::max(std::min(place.top(), last.y()), screenArea.top()));
 }
 
 void FormSurface::bringForward() {
@@ -133,6 +139,8 @@ void FormSurface::bringForward() {
 /// Tells the form of a new size or state, once it is shown.
 void FormSurface::reportState() {
   if (!isVisible()) return;
+  // The window manager, which alone can make it so, then puts it back to where it was.
+  if (oneSize_ && isFullScreen()) return setWindowState(windowState() & ~Qt::WindowFullScreen);
   const bool wasMinimised = std::exchange(minimised_, isMinimized());
   if (minimised_) {
     if (!wasMinimised) form_.raise(form_.onResize);

@@ -73,7 +73,7 @@ class Wait : public QObject {
 /// picture plug-ins.
 class LateIcon : public QObject {
  public:
-  explicit LateIcon(QObject* application) : QObject(application) { application->installEventFilter(this); }
+  explicit LateIcon(QObject* parent) : QObject(parent) { parent->installEventFilter(this); }
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() != QEvent::Paint) return false;
@@ -97,9 +97,12 @@ void LateIcon::readIcon() {
 }  // namespace
 
 Application::Application() {
-  static char name[] = "tessavane";
-  static char* arguments[] = {name, nullptr};
-  static int count = 1;
+  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a program
+  // that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is not
+  // inherited by child processes, as a changed environment would be.
+  static char name[] = "tessavane", option[] = "-platformtheme", theme[] = "generic";
+  static char* arguments[] = {name, option, theme, nullptr};
+  static int count = 3;
 
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_Use96Dpi);

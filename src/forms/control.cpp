@@ -135,8 +135,9 @@ void Control::applyColors() {
 }
 
 void Control::setFontSize(double points) {
-  if (widget_->font().pointSizeF() == points) return;
-  widget_->setFont(fontOf(points, widget_->font().bold()));
+  const QFont font = fontOf(points, widget_->font().bold());
+  if (widget_->font().pixelSize() == font.pixelSize()) return;
+  widget_->setFont(font);
   refit();
 }
 

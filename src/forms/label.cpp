@@ -67,6 +67,10 @@ void Label::setTransparent(bool transparent) {
 void Label::refit() {
   auto* label = static_cast<QLabel*>(widget());
   const QString text = toQt(caption_);
+  // The widths are made for Arial: where neither that nor a font like it is installed, most are wider.
+  if (!autoSize_ && !elided_)
+    if (const QFont font = narrowed(label->font(), text, label->width()); font != label->font())
+      label->setFont(font);
   label->setText(elided_ ? label->fontMetrics().elidedText(text, Qt::ElideMiddle, label->width()) : text);
   if (autoSize_) fitToText();
 }

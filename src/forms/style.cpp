@@ -6,6 +6,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
+#include <algorithm>
 
 #include "forms/form_data.h"
 
@@ -119,8 +120,16 @@ QFont fontOf(double points, bool bold) {
   // Where it is missing, fontconfig names a font of the same widths, as Liberation Sans, so that the layout
   // is the same with either. A list of names here would be searched name by name.
   QFont font("Arial");
-  font.setPointSizeF(points);
+  // In pixels: how many a point has is the desktop's choice, and the layout's are fixed.
+  font.setPixelSize(qRound(points * 96 / 72));
   font.setBold(bold);
+  return font;
+}
+
+QFont narrowed(QFont font, const QString& text, int width) {
+  font.setStretch(QFont::AnyStretch);
+  const int needed = QFontMetrics(font).horizontalAdvance(text);
+  if (needed > width) font.setStretch(std::max(width * 100 / needed, static_cast<int>(QFont::UltraCondensed)));
   return font;
 }
 

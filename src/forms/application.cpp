@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/spoken.h"
 #include "forms/style.h"
 
 namespace forms {
@@ -85,6 +86,7 @@ Application::Application() {
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   application = new QApplication(count, arguments);
+  installSpokenWidgets();
   applyStyle();
   QApplication::setWindowIcon(windowIcon());
   QApplication::setQuitOnLastWindowClosed(false);

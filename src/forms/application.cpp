@@ -18,6 +18,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/spoken.h"
 #include "forms/style.h"
 
 namespace forms {
@@ -97,9 +98,9 @@ void LateIcon::readIcon() {
 }  // namespace
 
 Application::Application() {
-  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a program
-  // that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is not
-  // inherited by child processes, as a changed environment would be.
+  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a
+  // program that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is
+  // not inherited by child processes, as a changed environment would be.
   static char name[] = "tessavane", option[] = "-platformtheme", theme[] = "generic";
   static char* arguments[] = {name, option, theme, nullptr};
   static int count = 3;
@@ -114,6 +115,7 @@ Application::Application() {
   application = new QApplication(count, arguments);
   fontconfig.join();
   fonts_ = std::thread([] { QFontDatabase::families(); });
+  installSpokenWidgets();
   applyStyle();
   new LateIcon(application);
   QApplication::setQuitOnLastWindowClosed(false);

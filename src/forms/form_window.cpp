@@ -1,6 +1,5 @@
 #include "forms/form_window.h"
 
-#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QScreen>
@@ -57,19 +56,10 @@ namespace {
 /// manager frames a new window, and most likely it frames all alike.
 QMargins lastFrame;
 
-/// Qt tells a screen reader that a plain top-level widget is a filler, not a window.
-QAccessibleInterface* makeSpokenWindow(const QString& /*kind*/, QObject* object) {
-  auto* surface = dynamic_cast<FormSurface*>(object);
-  if (surface == nullptr) return nullptr;
-  const bool owned = surface->windowType() == Qt::Dialog;
-  return new QAccessibleWidget(surface, owned ? QAccessible::Dialog : QAccessible::Window);
-}
-
 }  // namespace
 
 FormSurface::FormSurface(FormWindow& form, const FormData& formData)
     : Surface(false, formData.scale), form_(form), oneSize_(formData.oneSize) {
-  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenWindow), true);
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
   if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
@@ -94,8 +84,8 @@ void FormSurface::applyOuterSize() {
   const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
   const bool isForced = oneSize_ && isVisible() && size() != requestedSize_;
   requestedSize_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
-  // A manager that has overruled the size once, as tiling ones do, refuses any other without a word to Qt, which
-  // would not paint the rest of the window.
+  // A manager that has overruled the size once, as tiling ones do, refuses any other without a word to Qt,
+  // which would not paint the rest of the window.
   if (isForced) return;
   if (oneSize_)
     setFixedSize(requestedSize_);

@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <cmath>
 
+#include "forms/spoken_changes.h"
 #include "forms/style.h"
 #include "forms/surface.h"
 
@@ -37,6 +38,7 @@ class Outline : public QWidget {
 
 Label::Label(FormWindow& form, const ControlData& data)
     : Control(form, data, makeLabel()), autoSize_(data.look.autoSize), elided_(data.look.elided) {
+  if (data.look.announced) setAnnounced(*widget());
   setAlignment(data.look.alignment);
   setTransparent(data.look.transparent);
   setCaption(data.text);

@@ -129,7 +129,8 @@ QFont fontOf(double points, bool bold) {
 QFont narrowed(QFont font, const QString& text, int width) {
   font.setStretch(QFont::AnyStretch);
   const int needed = QFontMetrics(font).horizontalAdvance(text);
-  if (needed > width) font.setStretch(std::max(width * 100 / needed, static_cast<int>(QFont::UltraCondensed)));
+  if (needed > width)
+    font.setStretch(std::max(width * 100 / needed, static_cast<int>(QFont::UltraCondensed)));
   return font;
 }
 

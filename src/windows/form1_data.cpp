@@ -8,6 +8,7 @@ namespace {
 constexpr Look kCentred{.alignment = Alignment::Centre};
 constexpr Look kTitle{.back = kGrey, .fore = kPaleGrey, .alignment = Alignment::Centre};
 constexpr Look kReadOut{.back = kLightGrey, .fore = kDarkGrey};
+constexpr Look kAnnounced{.back = kLightGrey, .fore = kDarkGrey, .announced = true};
 constexpr Look kClearReadOut{.back = kLightGrey, .fore = kDarkGrey, .transparent = true};
 constexpr Look kRightReadOut{
     .back = kLightGrey, .fore = kDarkGrey, .alignment = Alignment::Right, .transparent = true};
@@ -20,8 +21,8 @@ constexpr ControlData kControls[] = {
     {Kind::PictureBox, "Picture1", 0, "", 240, 240, 14895, 2295, 1, "", {.border = true}},
     {Kind::PictureBox, "Picture1", 1, "", 240, 2640, 14895, 1335, 2, "", {.border = true}},
     {Kind::PictureBox, "Picture1", 2, "", 15240, 240, 1815, 3735, 3, "", {.border = true}},
-    {Kind::PictureBox, "Picture1", 3, "Picture1(2)", 0, 1320, 1815, 495, 9, ""},
-    {Kind::PictureBox, "Picture3", kSingle, "Picture1(2)", 0, 2040, 1815, 495, 27, "", {.scale = Scale::Twips}},
+    {Kind::PictureBox, "Picture1", 3, "Picture1(2)", 0, 1320, 1815, 495, 9, "", {}, "EQ Range"},
+    {Kind::PictureBox, "Picture3", kSingle, "Picture1(2)", 0, 2040, 1815, 495, 27, "", {.scale = Scale::Twips}, "Low Cut Filter"},
     {Kind::PictureBox, "Picture4", kSingle, "", 240, 4080, 16815, 495, 41, "", {.back = kLightGrey, .border = true, .scale = Scale::Twips}},
     {Kind::PictureBox, "Picture2", kSingle, "", 240, 6720, 975, 2415, 6, "", {.back = kLightGrey, .border = true, .hidden = true}},
     {Kind::Label, "Label6", kSingle, "", 480, 120, 255, 75, 38, "", {.alignment = Alignment::Centre, .fontSize = 6.75}},
@@ -58,8 +59,8 @@ constexpr ControlData kControls[] = {
     {Kind::OptionButton, "Option1", 5, "Picture1(2)", 600, 840, 495, 210, 16, "5", {}, "Preset 5"},
     {Kind::OptionButton, "Option1", 6, "Picture1(2)", 1080, 840, 495, 210, 17, "6", {}, "Preset 6"},
     {Kind::Label, "Label3", 1, "Picture1(2)", 0, 1080, 1815, 255, 23, "EQ Range", kTitle},
-    {Kind::OptionButton, "Option2", 0, "Picture1(3)", 120, 0, 1215, 255, 24, "+/- 12 db", {.selected = true}},
-    {Kind::OptionButton, "Option2", 1, "Picture1(3)", 120, 240, 1215, 255, 25, "+/- 6 db"},
+    {Kind::OptionButton, "Option2", 0, "Picture1(3)", 120, 0, 1215, 255, 24, "+/- 12 db", {.selected = true}, "plus or minus 12 dB"},
+    {Kind::OptionButton, "Option2", 1, "Picture1(3)", 120, 240, 1215, 255, 25, "+/- 6 db", {}, "plus or minus 6 dB"},
     {Kind::Label, "Label3", 2, "Picture1(2)", 0, 1800, 1815, 255, 26, "Low Cut Filter", kTitle},
     {Kind::OptionButton, "Option3", 0, "Picture3", 120, 0, 1575, 255, 28, "Low Cut On"},
     {Kind::OptionButton, "Option3", 1, "Picture3", 120, 240, 1575, 255, 29, "Low Cut Off", {.selected = true}},
@@ -67,7 +68,7 @@ constexpr ControlData kControls[] = {
     {Kind::CheckBox, "Check1", kSingle, "Picture1(2)", 120, 2880, 1575, 210, 40, "Indicator bars", {.selected = true}},
     {Kind::CommandButton, "Command1", 10, "Picture1(2)", 120, 3240, 1575, 375, 37, "Exit"},
     // Status strip.
-    {Kind::Label, "Label7", 0, "Picture4", 120, 120, 1575, 255, 42, "Preset Settings: 0", kReadOut},
+    {Kind::Label, "Label7", 0, "Picture4", 120, 120, 1575, 255, 42, "Preset Settings: 0", kAnnounced},
     {Kind::Label, "Label7", 1, "Picture4", 1800, 120, 1695, 255, 43, "EQ Range: +/- 12 db", kReadOut},
     {Kind::Label, "Label7", 2, "Picture4", 3600, 120, 1455, 255, 44, "Low Cut Filter: Off", kReadOut},
     {Kind::Label, "Label7", 3, "Picture4", 5280, 120, 1215, 255, 45, "Indicators: On", kReadOut},

@@ -73,7 +73,7 @@ class Wait : public QObject {
 /// picture plug-ins.
 class LateIcon : public QObject {
  public:
-  explicit LateIcon(QObject* application) : QObject(application) { application->installEventFilter(this); }
+  explicit LateIcon(QObject* parent) : QObject(parent) { parent->installEventFilter(this); }
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() != QEvent::Paint) return false;

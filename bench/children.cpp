@@ -143,14 +143,16 @@ double processorMinute(const std::function<void()>& play) {
   return minute;
 }
 
+/// What the chain adds to the player, through the program beside the same command typed.
 void measurePreview() {
   const std::string command = previewCommand(platform::programFolder(), AppState);
   const double program = processorMinute([&] { DOSOutputs().ExecuteCommand(command); });
   const double byHand = processorMinute([&] { runByHand(typed(command)); });
-  const std::string bare = command.substr(0, command.find(" -af "));
-  std::cerr << "preview: " << program << " s through the program, " << byHand << " s by hand, "
-            << processorMinute([&] { runByHand(typed(bare)); }) << " s of them without a chain\n";
-  if (program > 0 && byHand > 0) print("preview", program / byHand);
+  const std::string bareCommand = command.substr(0, command.find(" -af "));
+  const double bare = processorMinute([&] { runByHand(typed(bareCommand)); });
+  std::cerr << "preview: " << program << " s through the program, " << byHand << " s by hand, " << bare
+            << " s without a chain\n";
+  if (bare > 0 && program > 0 && byHand > bare) print("preview", (program - bare) / (byHand - bare));
 }
 
 void measureOutput() {

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QWidget>
 #include <chrono>
 #include <cstdlib>
@@ -88,6 +89,34 @@ void bandwidthStep(benchmark::State& state) {
 }
 BENCHMARK(bandwidthStep)->Iterations(2000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+/// Sends `widget` a mouse event at `place`, with the left button held unless it is a release.
+void sendMouse(QWidget* widget, QEvent::Type type, QPointF place) {
+  const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+  const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, place, widget->mapToGlobal(place), button, held, Qt::NoModifier);
+  QCoreApplication::sendEvent(widget, &event);
+}
+
+void dragStep(benchmark::State& state) {
+  forms::Slider& slider = Form1->Slider1(kBands / 2);
+  QWidget* widget = slider.widget();
+  const QPointF middle = widget->rect().center();
+  const double travel = widget->height() - widget->style()->pixelMetric(QStyle::PM_SliderLength);
+  slider.setValue(0);
+  sendMouse(widget, QEvent::MouseButtonPress, middle);
+  int direction = 1;
+  for (auto _ : state) {
+    if (slider.value() == slider.max()) direction = -1;
+    if (slider.value() == slider.min()) direction = 1;
+    const int wanted = slider.value() + direction;
+    const QPointF place = middle + QPointF(0, wanted * travel / (slider.max() - slider.min()));
+    timeStep(state, [&] { sendMouse(widget, QEvent::MouseMove, place); });
+    if (slider.value() != wanted) state.SkipWithError("the thumb did not follow");
+  }
+  sendMouse(widget, QEvent::MouseButtonRelease, middle);
+}
+BENCHMARK(dragStep)->Iterations(2000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
 void sweepTick(benchmark::State& state) {
   auto& sliders = Form1->Slider1;
   for (auto _ : state) {
@@ -115,11 +144,8 @@ void writePresets(const std::string& path) {
 
 void click(QWidget* widget) {
   const QPointF place(8, widget->height() / 2.0);
-  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
-  }
+  sendMouse(widget, QEvent::MouseButtonPress, place);
+  sendMouse(widget, QEvent::MouseButtonRelease, place);
 }
 
 void preset(benchmark::State& state) {

@@ -1,9 +1,12 @@
 #include "forms/application.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QPointer>
 #include <QSettings>
@@ -15,6 +18,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/spoken.h"
 #include "forms/style.h"
 
 namespace forms {
@@ -66,31 +70,59 @@ class Wait : public QObject {
   std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> keys_;
 };
 
-QIcon windowIcon() {
+/// Gives all windows their icon behind the first frame: for the first picture file Qt looks through all its
+/// picture plug-ins.
+class LateIcon : public QObject {
+ public:
+  explicit LateIcon(QObject* parent) : QObject(parent) { parent->installEventFilter(this); }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    deleteLater();
+    QCoreApplication::instance()->removeEventFilter(this);
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &readIcon, Qt::QueuedConnection);
+    return false;
+  }
+
+ private:
+  static void readIcon();
+};
+
+void LateIcon::readIcon() {
   QIcon icon;
   for (const char* size : {"16x16", "32x32", "48x48"})
     icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size));
-  return icon;
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
 
 Application::Application() {
-  static char name[] = "tessavane";
-  static char* arguments[] = {name, nullptr};
-  static int count = 1;
+  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a
+  // program that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is
+  // not inherited by child processes, as a changed environment would be.
+  static char name[] = "tessavane", option[] = "-platformtheme", theme[] = "generic";
+  static char* arguments[] = {name, option, theme, nullptr};
+  static int count = 3;
 
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_Use96Dpi);
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+  // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
+  // to do with the first text; and Qt makes its own list of the fonts while the first controls are made.
+  std::thread fontconfig([] { FcInit(); });
   application = new QApplication(count, arguments);
+  fontconfig.join();
+  fonts_ = std::thread([] { QFontDatabase::families(); });
+  installSpokenWidgets();
   applyStyle();
-  QApplication::setWindowIcon(windowIcon());
+  new LateIcon(application);
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
 Application::~Application() {
+  fonts_.join();
   delete application;
   application = nullptr;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <thread>
 
 namespace forms {
 
@@ -33,6 +34,9 @@ class Application {
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();
+
+ private:
+  std::thread fonts_;
 };
 
 }  // namespace forms

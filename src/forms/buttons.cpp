@@ -24,6 +24,25 @@ void makeTabStops(const QButtonGroup& group) {
     button->setFocusPolicy(choice == nullptr || choice == button ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
+/// Arrow keys walk the group in the order of its members; by itself Qt goes by their places on the screen.
+class RadioButton : public QRadioButton {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool forward = event->key() == Qt::Key_Down || event->key() == Qt::Key_Right;
+    const bool back = event->key() == Qt::Key_Up || event->key() == Qt::Key_Left;
+    if (!forward && !back) {
+      QRadioButton::keyPressEvent(event);
+      return;
+    }
+    const QList<QAbstractButton*> all = group()->buttons();
+    const qsizetype next = all.indexOf(this) + (forward ? 1 : -1);
+    if (next < 0 || next >= all.size()) return;
+    // Chosen first, so that a screen reader finds the new focus selected.
+    if (isChecked()) all[next]->click();
+    all[next]->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
+};
+
 class PushButton : public QPushButton {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -52,11 +71,11 @@ void CommandButton::setCaption(const std::string& caption) {
   button->setAccessibleName(toQt(caption).trimmed());
 }
 
-OptionButton::OptionButton(FormWindow& form, const ControlData& data)
-    : Control(form, data, new QRadioButton) {
+OptionButton::OptionButton(FormWindow& form, const ControlData& data) : Control(form, data, new RadioButton) {
   auto* button = static_cast<QRadioButton*>(widget());
   button->setText(literal(data.text));
   button->setAutoFillBackground(true);
+  if (*data.spokenName == '\0') button->setAccessibleName(data.text);
   button->setChecked(data.look.selected);
   // Without a group, Qt would take the buttons of inner containers for choices of the same one.
   QButtonGroup& group = container().options();
@@ -91,6 +110,7 @@ void OptionButton::setValue(bool value) {
 CheckBox::CheckBox(FormWindow& form, const ControlData& data) : Control(form, data, new QCheckBox) {
   auto* box = static_cast<QCheckBox*>(widget());
   box->setText(literal(data.text));
+  if (*data.spokenName == '\0') box->setAccessibleName(data.text);
   box->setChecked(data.look.selected);
   QObject::connect(box, &QCheckBox::clicked, box, [this] { raise(onClick); });
 }

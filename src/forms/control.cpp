@@ -1,9 +1,11 @@
 #include "forms/control.h"
 
 #include <QAbstractScrollArea>
-#include <QEvent>
+#include <QHelpEvent>
 #include <QPalette>
+#include <QToolTip>
 #include <QWidget>
+#include <utility>
 
 #include "forms/form_window.h"
 #include "forms/style.h"
@@ -32,6 +34,8 @@ class MouseFilter : public QObject {
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     switch (event->type()) {
+      case QEvent::ToolTip:
+        return control_.showToolTip(static_cast<QHelpEvent*>(event)->globalPos());
       case QEvent::MouseMove:
         control_.raise(control_.onMouseMove);
         return consumes_;
@@ -103,7 +107,14 @@ bool Control::enabled() const {
 }
 
 void Control::setEnabled(bool enabled) {
+  // Qt hands the focus on to the next control, where a key that is meant for this one would fall: it stays
+  // nowhere until this one is enabled again, or the user moves it.
+  if (!enabled && widget_->window()->focusWidget() == widget_) {
+    keepsFocus_ = true;
+    widget_->clearFocus();
+  }
   widget_->setEnabled(enabled);
+  if (enabled && std::exchange(keepsFocus_, false) && widget_->window()->focusWidget() == nullptr) setFocus();
 }
 
 void Control::setForeColor(Color color) {
@@ -135,17 +146,23 @@ void Control::applyColors() {
 }
 
 void Control::setFontSize(double points) {
-  if (widget_->font().pointSizeF() == points) return;
-  widget_->setFont(fontOf(points, widget_->font().bold()));
+  const QFont font = fontOf(points, widget_->font().bold());
+  if (widget_->font().pixelSize() == font.pixelSize()) return;
+  widget_->setFont(font);
   refit();
 }
 
 void Control::setToolTipText(const std::string& text) {
-  if (toolTip_ == text) return;
   toolTip_ = text;
+}
+
+/// Qt gives a screen reader the tip of a widget for its description; the one here is not told to Qt.
+bool Control::showToolTip(const QPoint& place) {
+  if (toolTip_.empty()) return false;
   // Qt takes a tool tip for markup where it looks like it; written as markup, any text shows as it is.
-  const QString plain = toQt(text).toHtmlEscaped();
-  widget_->setToolTip(plain.isEmpty() ? plain : "<p style='white-space:pre'>" + plain + "</p>");
+  const QString markup = "<p style='white-space:pre'>" + toQt(toolTip_).toHtmlEscaped() + "</p>";
+  QToolTip::showText(place, markup, widget_);
+  return true;
 }
 
 void Control::setFocus() {

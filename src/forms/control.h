@@ -6,6 +6,7 @@
 
 #include "forms/form_data.h"
 
+class QPoint;
 class QWidget;
 
 namespace forms {
@@ -85,11 +86,13 @@ class Control : public Item {
   friend class MouseFilter;
   void setSize(double width, double height);
   void applyColors();
+  bool showToolTip(const QPoint& place);
 
   QWidget* widget_;
   Surface& container_;
   double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
   bool visible_ = true;
+  bool keepsFocus_ = false;
   Color back_, fore_;
   std::string toolTip_;
 };

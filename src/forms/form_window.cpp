@@ -1,6 +1,5 @@
 #include "forms/form_window.h"
 
-#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QScreen>
@@ -24,7 +23,10 @@ class FormSurface : public Surface {
   QSize outerSize() const { return size().grownBy(frame()); }
   /// Brings the window to the outer size of its form.
   void applyOuterSize();
-  /// Prepares the first show: in the middle of the owner's window, or of the screen where there is none.
+  /// Prepares the first show: the outer size alone.
+  void prepareSize();
+  /// Prepares the first show in its final size: in the middle of the owner's window, or of the screen where
+  /// there is none.
   void standBeside(const FormSurface* owner);
   /// Shows the window, in its normal state if it is minimised, in front of the others.
   void bringForward();
@@ -54,19 +56,10 @@ namespace {
 /// manager frames a new window, and most likely it frames all alike.
 QMargins lastFrame;
 
-/// Qt tells a screen reader that a plain top-level widget is a filler, not a window.
-QAccessibleInterface* makeSpokenWindow(const QString& /*kind*/, QObject* object) {
-  auto* surface = dynamic_cast<FormSurface*>(object);
-  if (surface == nullptr) return nullptr;
-  const bool owned = surface->windowType() == Qt::Dialog;
-  return new QAccessibleWidget(surface, owned ? QAccessible::Dialog : QAccessible::Window);
-}
-
 }  // namespace
 
 FormSurface::FormSurface(FormWindow& form, const FormData& formData)
     : Surface(false, formData.scale), form_(form), oneSize_(formData.oneSize) {
-  [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenWindow), true);
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
   if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
@@ -89,30 +82,38 @@ QMargins FormSurface::frame() const {
 void FormSurface::applyOuterSize() {
   assumedFrame_ = frame();
   const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
+  const bool isForced = oneSize_ && isVisible() && size() != requestedSize_;
   requestedSize_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
+  // A manager that has overruled the size once, as tiling ones do, refuses any other without a word to Qt,
+  // which would not paint the rest of the window.
+  if (isForced) return;
   if (oneSize_)
     setFixedSize(requestedSize_);
   else
     resize(requestedSize_);
 }
 
-void FormSurface::standBeside(const FormSurface* owner) {
+void FormSurface::prepareSize() {
   applyOuterSize();
+  reportedSize_ = size();
+}
+
+void FormSurface::standBeside(const FormSurface* owner) {
   const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
   centre_ = (owner != nullptr ? owner->frameGeometry() : screenArea).center();
   centre();
-  if (owner != nullptr) {
-    winId();
-    windowHandle()->setTransientParent(owner->windowHandle());
-  }
-  reportedSize_ = size();
+  if (owner == nullptr) return;
+  winId();
+  windowHandle()->setTransientParent(owner->windowHandle());
 }
 
 void FormSurface::centre() {
   QRect place({0, 0}, outerSize());
   place.moveCenter(centre_);
   const QRect screenArea = screen()->availableGeometry();
-  move(std::max(place.left(), screenArea.left()), std::max(place.top(), screenArea.top()));
+  const QPoint last = screenArea.bottomRight() - place.bottomRight() + place.topLeft();
+  move(std::max(std::min(place.left(), last.x()), screenArea.left()),
+       std::max(std::min(place.top(), last.y()), screenArea.top()));
 }
 
 void FormSurface::bringForward() {
@@ -128,6 +129,8 @@ void FormSurface::bringForward() {
 /// Tells the form of a new size or state, once it is shown.
 void FormSurface::reportState() {
   if (!isVisible()) return;
+  // The window manager, which alone can make it so, then puts it back to where it was.
+  if (oneSize_ && isFullScreen()) return setWindowState(windowState() & ~Qt::WindowFullScreen);
   const bool wasMinimised = std::exchange(minimised_, isMinimized());
   if (minimised_) {
     if (!wasMinimised) form_.raise(form_.onResize);
@@ -236,9 +239,10 @@ void FormWindow::load(std::function<void()> forget) {
 void FormWindow::show(const FormWindow* owner) {
   if (!loaded_) return;
   if (!window_->isVisible()) {
-    window_->standBeside(owner != nullptr ? owner->window_.get() : nullptr);
+    window_->prepareSize();
     raise(onResize);
     if (!loaded_) return;
+    window_->standBeside(owner != nullptr ? owner->window_.get() : nullptr);
   }
   window_->bringForward();
 }

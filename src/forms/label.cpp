@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <cmath>
 
+#include "forms/spoken_changes.h"
 #include "forms/style.h"
 #include "forms/surface.h"
 
@@ -37,6 +38,7 @@ class Outline : public QWidget {
 
 Label::Label(FormWindow& form, const ControlData& data)
     : Control(form, data, makeLabel()), autoSize_(data.look.autoSize), elided_(data.look.elided) {
+  if (data.look.announced) setAnnounced(*widget());
   setAlignment(data.look.alignment);
   setTransparent(data.look.transparent);
   setCaption(data.text);
@@ -67,6 +69,10 @@ void Label::setTransparent(bool transparent) {
 void Label::refit() {
   auto* label = static_cast<QLabel*>(widget());
   const QString text = toQt(caption_);
+  // The widths are made for Arial: where neither that nor a font like it is installed, most are wider.
+  if (!autoSize_ && !elided_)
+    if (const QFont font = narrowed(label->font(), text, label->width()); font != label->font())
+      label->setFont(font);
   label->setText(elided_ ? label->fontMetrics().elidedText(text, Qt::ElideMiddle, label->width()) : text);
   if (autoSize_) fitToText();
 }

@@ -3,6 +3,8 @@
 #include <QProgressBar>
 #include <cmath>
 
+#include "forms/spoken.h"
+
 namespace forms {
 
 ProgressBar::ProgressBar(FormWindow& form, const ControlData& data) : Control(form, data, new QProgressBar) {
@@ -14,8 +16,11 @@ ProgressBar::ProgressBar(FormWindow& form, const ControlData& data) : Control(fo
 
 void ProgressBar::setValue(double value) {
   if (!(value >= 0 && value <= max_)) return;
+  auto* bar = static_cast<QProgressBar*>(widget());
+  // A reader asks for the value a while after it was told of a new one.
+  setSpokenFull(*bar, value == 0 && value_ > 0);
   value_ = value;
-  static_cast<QProgressBar*>(widget())->setValue(static_cast<int>(value));
+  bar->setValue(static_cast<int>(value));
 }
 
 void ProgressBar::setMax(double max) {

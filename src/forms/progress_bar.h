@@ -5,7 +5,8 @@
 
 namespace forms {
 
-/// Starts at 0 of 0 to 100. A value outside `Min`..`Max` and a `Max` not above `Min` change nothing.
+/// Starts at 0 of 0 to 100. A bar that is emptied is at its end: a screen reader hears its maximum from then
+/// until it fills again. A value outside `Min`..`Max` and a `Max` not above `Min` change nothing.
 class ProgressBar : public Control {
  public:
   ProgressBar(FormWindow& form, const ControlData& data);

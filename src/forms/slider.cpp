@@ -1,12 +1,10 @@
 #include "forms/slider.h"
 
-#include <QAccessibleWidget>
 #include <QSlider>
 #include <QWheelEvent>
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
+#include "forms/spoken.h"
 #include "forms/style.h"
 
 namespace forms {
@@ -15,20 +13,13 @@ namespace {
 /// One notch of a wheel, in eighths of a degree (Qt's measure).
 constexpr int kNotch = 120;
 
-QAccessibleInterface* makeSpokenSlider(const QString& kind, QObject* object);
-
 class SliderWidget : public QSlider {
  public:
-  explicit SliderWidget(const SliderData& values)
-      : QSlider(values.vertical ? Qt::Vertical : Qt::Horizontal), spokenFactor_(values.spokenFactor) {
-    // Qt asks for the interface of a widget at its first property that a screen reader is told of, and keeps
-    // the one that it then gets.
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSpokenSlider), true);
+  explicit SliderWidget(const SliderData& values) : QSlider(values.vertical ? Qt::Vertical : Qt::Horizontal) {
     setInvertedAppearance(values.vertical);
     setInvertedControls(values.vertical);
+    setSpokenFactor(*this, values.spokenFactor);
   }
-
-  double spokenFactor() const { return spokenFactor_; }
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
@@ -43,42 +34,8 @@ class SliderWidget : public QSlider {
   }
 
  private:
-  double spokenFactor_;
   int turnedSoFar_ = 0;
 };
-
-/// Tells a screen reader what the position stands for.
-class SpokenSlider : public QAccessibleWidget, public QAccessibleValueInterface {
- public:
-  explicit SpokenSlider(SliderWidget* slider)
-      : QAccessibleWidget(slider, QAccessible::Slider), slider_(slider) {}
-
-  void* interface_cast(QAccessible::InterfaceType type) override {
-    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
-    return QAccessibleWidget::interface_cast(type);
-  }
-  // Adding nothing turns a negative zero into a plain one.
-  QVariant currentValue() const override { return slider_->value() * factor() + 0.0; }
-  void setCurrentValue(const QVariant& value) override {
-    slider_->setValue(qRound(value.toDouble() / factor()));
-  }
-  QVariant minimumValue() const override { return std::min(ends().first, ends().second); }
-  QVariant maximumValue() const override { return std::max(ends().first, ends().second); }
-  QVariant minimumStepSize() const override { return std::abs(factor()); }
-
- private:
-  double factor() const { return slider_->spokenFactor(); }
-  std::pair<double, double> ends() const {
-    return {slider_->minimum() * factor(), slider_->maximum() * factor()};
-  }
-
-  SliderWidget* slider_;
-};
-
-QAccessibleInterface* makeSpokenSlider(const QString& /*kind*/, QObject* object) {
-  auto* slider = dynamic_cast<SliderWidget*>(object);
-  return slider != nullptr ? new SpokenSlider(slider) : nullptr;
-}
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
+#include <algorithm>
 
 #include "forms/form_data.h"
 
@@ -52,6 +53,9 @@ class Style : public QProxyStyle {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
       return;
     }
+    // The parts are drawn in their own size. Smoothed all the same, each is filled span by span, and Qt hands
+    // the spans to threads that have to be started first.
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
     QStyleOptionSlider part = *slider;
     part.subControls = slider->subControls & ~SC_SliderHandle;
     part.palette = groove_;
@@ -113,10 +117,20 @@ QColor toQt(Color color) {
 }
 
 QFont fontOf(double points, bool bold) {
-  // Liberation Sans has the widths of Arial, so that the layout is the same with either.
-  QFont font(QStringList{"Arial", "Liberation Sans", "Arimo", "Helvetica"});
-  font.setPointSizeF(points);
+  // Where it is missing, fontconfig names a font of the same widths, as Liberation Sans, so that the layout
+  // is the same with either. A list of names here would be searched name by name.
+  QFont font("Arial");
+  // In pixels: how many a point has is the desktop's choice, and the layout's are fixed.
+  font.setPixelSize(qRound(points * 96 / 72));
   font.setBold(bold);
+  return font;
+}
+
+QFont narrowed(QFont font, const QString& text, int width) {
+  font.setStretch(QFont::AnyStretch);
+  const int needed = QFontMetrics(font).horizontalAdvance(text);
+  if (needed > width)
+    font.setStretch(std::max(width * 100 / needed, static_cast<int>(QFont::UltraCondensed)));
   return font;
 }
 

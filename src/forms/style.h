@@ -21,8 +21,11 @@ inline std::string fromQt(const QString& text) {
 
 QColor toQt(Color color);
 
-/// The program's font in a size in points, at 72 points to 96 pixels.
+/// The program's font in a size in points, at 72 points to 96 pixels, in whole pixels.
 QFont fontOf(double points, bool bold);
+
+/// `font`, made as narrow as it takes to get `text` into `width` pixels; at most to half its width.
+QFont narrowed(QFont font, const QString& text, int width);
 
 /// Fills the outermost pixels of `extent`, whole ones on scaled screens too.
 void drawOutline(QPainter& painter, const QRect& extent, const QColor& color);

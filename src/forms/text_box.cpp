@@ -1,6 +1,6 @@
 #include "forms/text_box.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <algorithm>
@@ -11,6 +11,16 @@
 namespace forms {
 namespace {
 
+/// Qt would select the whole text for a Tab that comes here, and a screen reader would say it once more then,
+/// and again that it is selected no longer.
+class LineBox : public QLineEdit {
+ protected:
+  void focusInEvent(QFocusEvent* /*event*/) override {
+    QFocusEvent withoutSelection(QEvent::FocusIn, Qt::OtherFocusReason);
+    QLineEdit::focusInEvent(&withoutSelection);
+  }
+};
+
 QWidget* makeBox(bool multiLine) {
   if (multiLine) {
     auto* box = new QPlainTextEdit;
@@ -20,7 +30,7 @@ QWidget* makeBox(bool multiLine) {
     box->setTabChangesFocus(true);
     return box;
   }
-  auto* box = new QLineEdit;
+  auto* box = new LineBox;
   box->setReadOnly(true);
   box->setFrame(false);
   return box;

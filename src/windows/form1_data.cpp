@@ -8,6 +8,7 @@ namespace {
 constexpr Look kCentred{.alignment = Alignment::Centre};
 constexpr Look kTitle{.back = kGrey, .fore = kPaleGrey, .alignment = Alignment::Centre};
 constexpr Look kReadOut{.back = kLightGrey, .fore = kDarkGrey};
+constexpr Look kAnnounced{.back = kLightGrey, .fore = kDarkGrey, .announced = true};
 constexpr Look kClearReadOut{.back = kLightGrey, .fore = kDarkGrey, .transparent = true};
 constexpr Look kRightReadOut{
     .back = kLightGrey, .fore = kDarkGrey, .alignment = Alignment::Right, .transparent = true};
@@ -20,8 +21,8 @@ constexpr ControlData kControls[] = {
     {Kind::PictureBox, "Picture1", 0, "", 240, 240, 14895, 2295, 1, "", {.border = true}},
     {Kind::PictureBox, "Picture1", 1, "", 240, 2640, 14895, 1335, 2, "", {.border = true}},
     {Kind::PictureBox, "Picture1", 2, "", 15240, 240, 1815, 3735, 3, "", {.border = true}},
-    {Kind::PictureBox, "Picture1", 3, "Picture1(2)", 0, 1320, 1815, 495, 9, ""},
-    {Kind::PictureBox, "Picture3", kSingle, "Picture1(2)", 0, 2040, 1815, 495, 27, "", {.scale = Scale::Twips}},
+    {Kind::PictureBox, "Picture1", 3, "Picture1(2)", 0, 1320, 1815, 495, 9, "", {}, "EQ Range"},
+    {Kind::PictureBox, "Picture3", kSingle, "Picture1(2)", 0, 2040, 1815, 495, 27, "", {.scale = Scale::Twips}, "Low Cut Filter"},
     {Kind::PictureBox, "Picture4", kSingle, "", 240, 4080, 16815, 495, 41, "", {.back = kLightGrey, .border = true, .scale = Scale::Twips}},
     {Kind::PictureBox, "Picture2", kSingle, "", 240, 6720, 975, 2415, 6, "", {.back = kLightGrey, .border = true, .hidden = true}},
     {Kind::Label, "Label6", kSingle, "", 480, 120, 255, 75, 38, "", {.alignment = Alignment::Centre, .fontSize = 6.75}},
@@ -47,9 +48,6 @@ constexpr ControlData kControls[] = {
     {Kind::Label, "Label4", 0, "Picture1(1)", 12000, 240, 855, 255, 18, "< Gain >", kCentred},
     {Kind::Label, "Label4", 1, "Picture1(1)", 10560, 240, 1215, 255, 19, "Decrease [ - ]"},
     {Kind::Label, "Label4", 2, "Picture1(1)", 13320, 240, 1095, 255, 20, "[ + ] Increase", {.alignment = Alignment::Right}},
-    {Kind::Label, "Label4", 3, "Picture1(1)", 11610, 1080, 1755, 210, 21, "Gain:100%", {.alignment = Alignment::Centre, .transparent = true, .autoSize = true}},
-    // Over the labels, which reach a pixel into it.
-    {Kind::TextBox, "Text1", kSingle, "Picture1(1)", 0, 0, 14895, 255, 22, "<%InputFile%>", {.fore = kWindowText}, "Source file"},
     // Option panel.
     {Kind::Label, "Label3", 0, "Picture1(2)", 0, 0, 1815, 255, 10, "Presets", kTitle},
     {Kind::Label, "Label5", kSingle, "Picture1(2)", 0, 240, 1815, 255, 31, "", {.back = kLightGrey}},
@@ -61,8 +59,8 @@ constexpr ControlData kControls[] = {
     {Kind::OptionButton, "Option1", 5, "Picture1(2)", 600, 840, 495, 210, 16, "5", {}, "Preset 5"},
     {Kind::OptionButton, "Option1", 6, "Picture1(2)", 1080, 840, 495, 210, 17, "6", {}, "Preset 6"},
     {Kind::Label, "Label3", 1, "Picture1(2)", 0, 1080, 1815, 255, 23, "EQ Range", kTitle},
-    {Kind::OptionButton, "Option2", 0, "Picture1(3)", 120, 0, 1215, 255, 24, "+/- 12 db", {.selected = true}},
-    {Kind::OptionButton, "Option2", 1, "Picture1(3)", 120, 240, 1215, 255, 25, "+/- 6 db"},
+    {Kind::OptionButton, "Option2", 0, "Picture1(3)", 120, 0, 1215, 255, 24, "+/- 12 db", {.selected = true}, "plus or minus 12 dB"},
+    {Kind::OptionButton, "Option2", 1, "Picture1(3)", 120, 240, 1215, 255, 25, "+/- 6 db", {}, "plus or minus 6 dB"},
     {Kind::Label, "Label3", 2, "Picture1(2)", 0, 1800, 1815, 255, 26, "Low Cut Filter", kTitle},
     {Kind::OptionButton, "Option3", 0, "Picture3", 120, 0, 1575, 255, 28, "Low Cut On"},
     {Kind::OptionButton, "Option3", 1, "Picture3", 120, 240, 1575, 255, 29, "Low Cut Off", {.selected = true}},
@@ -70,7 +68,7 @@ constexpr ControlData kControls[] = {
     {Kind::CheckBox, "Check1", kSingle, "Picture1(2)", 120, 2880, 1575, 210, 40, "Indicator bars", {.selected = true}},
     {Kind::CommandButton, "Command1", 10, "Picture1(2)", 120, 3240, 1575, 375, 37, "Exit"},
     // Status strip.
-    {Kind::Label, "Label7", 0, "Picture4", 120, 120, 1575, 255, 42, "Preset Settings: 0", kReadOut},
+    {Kind::Label, "Label7", 0, "Picture4", 120, 120, 1575, 255, 42, "Preset Settings: 0", kAnnounced},
     {Kind::Label, "Label7", 1, "Picture4", 1800, 120, 1695, 255, 43, "EQ Range: +/- 12 db", kReadOut},
     {Kind::Label, "Label7", 2, "Picture4", 3600, 120, 1455, 255, 44, "Low Cut Filter: Off", kReadOut},
     {Kind::Label, "Label7", 3, "Picture4", 5280, 120, 1215, 255, 45, "Indicators: On", kReadOut},
@@ -78,6 +76,10 @@ constexpr ControlData kControls[] = {
     {Kind::Label, "Label7", 5, "Picture4", 11040, 120, 2535, 255, 47, "Gain Settings 100% Of Source", kClearReadOut},
     {Kind::Label, "Label7", 6, "Picture4", 8760, 120, 2055, 255, 53, "Current Bandwidth: 001 Hz", kClearReadOut},
     {Kind::Label, "Label7", 7, "Picture4", 13680, 120, 2535, 255, 55, "Selected Frequency Value:  0db", kRightReadOut},
+    // Both measure their text when they are made, and the fonts come late. Text1 lies over the labels, which reach a
+    // pixel into it.
+    {Kind::Label, "Label4", 3, "Picture1(1)", 11610, 1080, 1755, 210, 21, "Gain:100%", {.alignment = Alignment::Centre, .transparent = true, .autoSize = true}},
+    {Kind::TextBox, "Text1", kSingle, "Picture1(1)", 0, 0, 14895, 255, 22, "<%InputFile%>", {.fore = kWindowText}, "Source file"},
 };
 
 // Name, index, container; the two ends in twips; colour; width in pixels.

@@ -68,7 +68,8 @@ start_desktop() {
   for needed in Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
     command -v "$needed" >/dev/null || fail "$needed is not installed"
   done
-  in_background Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display"
+  # Reset when its only client so far leaves, the server would throw out whoever is just coming.
+  in_background Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset 3>"$scratch/display"
   wait_for test -s "$scratch/display"
   DISPLAY=:$(cat "$scratch/display")
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
@@ -213,9 +214,15 @@ keys() {
   xdotool key --delay 5 "$@"
 }
 
-# paste_text TEXT: by way of the clipboard, since not every character has a key.
+clipboard_holds() {
+  timeout 5 xclip -out -selection clipboard 2>/dev/null | cmp -s <(printf %s "$1") -
+}
+
+# paste_text TEXT: by way of the clipboard, since not every character has a key. xclip leaves for the background
+# before the clipboard is its own.
 paste_text() {
   printf %s "$1" | xclip -selection clipboard 2>/dev/null
+  wait_for clipboard_holds "$1"
   keys ctrl+v
 }
 

@@ -88,13 +88,8 @@ load_the_preset() {
 }
 
 copy_the_string() {
-  printf %s "$chain" >"$scratch/chain"
   click "EQ String > Clipboard"
-  wait_for clipboard_holds "$scratch/chain"
-}
-
-clipboard_holds() {
-  timeout 5 xclip -out -selection clipboard 2>/dev/null | cmp -s "$1" -
+  wait_for clipboard_holds "$chain"
 }
 
 render() {

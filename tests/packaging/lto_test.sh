@@ -1,0 +1,8 @@
+#!/bin/bash
+# A program that was optimized when it was linked shows its window.
+. "$(dirname "$0")/../desktop/desktop.sh"
+
+start_desktop
+start_program
+click Exit
+wait_for program_has_ended

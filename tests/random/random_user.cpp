@@ -10,6 +10,7 @@ namespace {
 
 /// Where everything about one action is drawn from, so that its number says it all.
 using Dice = std::mt19937;
+using Number = Dice::result_type;
 
 constexpr Qt::Key kKeys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return,  Qt::Key_Space, Qt::Key_X,
                              Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,      Qt::Key_Down,  Qt::Key_Home,
@@ -31,7 +32,7 @@ bool mouseIsDown = false;
 QString nameToAnswer;
 
 int below(int limit, Dice& dice) {
-  return static_cast<int>(dice() % static_cast<unsigned>(std::max(1, limit)));
+  return static_cast<int>(dice() % static_cast<Number>(std::max(1, limit)));
 }
 
 QPoint placeOn(const QWidget& widget, Dice& dice) {
@@ -66,9 +67,9 @@ void pressKey(QWidget& widget, Dice& dice) {
 void sizeWindow(QWidget& window, Dice& dice) {
   if (below(10, dice) == 0) return window.showMinimized();
   window.showNormal();
-  window.setMinimumSize(0, 0);
   const int width = below(2000, dice);
-  window.resize(width, below(2000, dice));
+  // No person can give another size to a window that has but one.
+  if (window.minimumSize() != window.maximumSize()) window.resize(width, below(2000, dice));
 }
 
 enum class Action { PressButton, Click, DragSlider, TurnWheel, PressKey, SizeWindow };
@@ -115,7 +116,7 @@ QWidget* drawTarget(const Kind& kind, Dice& dice) {
   return widgets[below(static_cast<int>(widgets.size()), dice)];
 }
 
-void perform(unsigned number, const std::string& when) {
+void perform(Number number, const std::string& when) {
   Dice dice(number);
   const Kind& kind = drawKind(dice);
   QWidget* target = drawTarget(kind, dice);
@@ -128,7 +129,7 @@ void perform(unsigned number, const std::string& when) {
 }
 
 /// Does it with coming events: outside of drags, of dialogs and of waits for a tool.
-void performSoon(unsigned number) {
+void performSoon(Number number) {
   const auto due = [number] {
     if (mouseIsDown || QApplication::activeModalWidget() != nullptr || support::isHeldBack())
       performSoon(number);
@@ -174,12 +175,12 @@ TEST_F(RandomUser, LeavesAllInOrder) {
   QObject::connect(&answers, &QTimer::timeout, &answerDialog);
   answers.start(0);
 
-  Dice numbers(static_cast<unsigned>(seed));
+  Dice numbers(static_cast<Number>(seed));
   bool wasSaving = false;
   for (int step = 1; step <= steps && !HasFailure(); ++step) {
     if (below(4, numbers) == 0) performSoon(numbers());
     perform(numbers(), std::to_string(step));
-    const unsigned inRender = numbers();
+    const Number inRender = numbers();
     if (!std::exchange(wasSaving, Form2.isLoaded()) && Form2.isLoaded())
       Form2->Timer1.onTick = [inRender](int) {
         performSoon(inRender);

@@ -30,6 +30,7 @@ TEST_F(Runner, HandsOnPiecesOf256BytesAndAnEmptyOneAtTheEnd) {
   EXPECT_EQ(runner->ExecuteCommand(), std::string(300, 'x'));
   EXPECT_EQ(runner->Outputs(), std::string(300, 'x'));
   EXPECT_EQ(pieces, (std::vector<std::string>{std::string(256, 'x'), std::string(44, 'x'), ""}));
+  EXPECT_EQ(runner->ExecuteCommand(), std::string(300, 'x')) << "the second run alone";
 }
 
 TEST_F(Runner, RaisesNothingWithoutAChildAndKeepsTheOutputOfTheRunBefore) {

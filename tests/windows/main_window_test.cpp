@@ -114,6 +114,11 @@ TEST_F(MainWindowTest, ShowsTheGainWhichComposesNothing) {
   EXPECT_EQ(AppState.EqString, "");
 }
 
+TEST_F(MainWindowTest, TheWidthComposesEveryBand) {
+  Form1->Slider3.setValue(2);
+  for (const std::string& text : AppState.BandGainText) EXPECT_EQ(text, "-0");
+}
+
 TEST_F(MainWindowTest, TheClipboardButtonTellsOfACopyUntilTheNextChange) {
   for (forms::Slider* changed : {&Form1->Slider3, &Form1->Slider1(0), &Form1->Slider2}) {
     Form1->Command1_Click(8);

@@ -21,6 +21,11 @@ class Presets : public support::Session {
   }
 };
 
+TEST_F(Presets, SaveNothingWithoutAChoice) {
+  SavePreset();
+  EXPECT_FALSE(std::filesystem::exists(folder.file("AppPresets.ini")));
+}
+
 TEST_F(Presets, RaiseTheEventsOfWhatChangesAndNoOthers) {
   Form1->Slider1(20).setValue(-9);
   Form1->Slider1(30).setValue(5);
@@ -69,6 +74,8 @@ TEST_F(Presets, NoPresetWalksAllBandsBackIn33TicksAndIn33MoreWhereTheFirstHasMov
   Form1->Timer3.onTick = nullptr;
   click(Form1->Option1(0));
   EXPECT_EQ(Form1->Slider1(0).value(), 1) << "what a preset that is not stored sets";
+  Form1->Timer3_Timer();
+  click(Form1->Option1(0));  // Counts from the beginning.
   for (int tick = 1; tick <= 66; ++tick) {
     EXPECT_TRUE(Form1->Timer3.enabled()) << "before tick " << tick;
     if (tick == 33) Form1->Slider1(0).setValue(2);

@@ -124,6 +124,8 @@ TEST_F(Render, AFileThatItReadsOrWritesIsNotEmptiedMeanwhile) {
     saveAs(source);
     EXPECT_EQ(support::readFile(source), "sound");
   });
+  saveAs(target);
+  EXPECT_EQ(support::readFile(target), kMarker) << "when the render is over";
 }
 
 TEST_F(Render, ASecondOneToTheSameFileIsNotMixedWithTheFirstAndKeepsALink) {
@@ -142,6 +144,7 @@ TEST_F(Render, ASecondOneThatFailsLeavesTheMarkerOrTheSourceThatTheTargetHasBeco
       if (isSource) openSource(target);
       EXPECT_TRUE(support::waitFor(isFinished));
       EXPECT_EQ(support::readFile(target), isSource ? "data" : kMarker);
+      EXPECT_EQ(AppState.SavePathShort.empty(), isSource);
     });
     Form2.unload();
     support::shell("rm '" + folder.path() + "'/ffmpeg*");

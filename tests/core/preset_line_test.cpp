@@ -11,11 +11,4 @@ TEST(PresetLine, AGainIsTheNearestPosition) {
   for (const auto& [percent, position] : rows) EXPECT_EQ(gainPosition(percent), position) << percent;
 }
 
-TEST(PresetLine, AFieldIsWhatStandsBehindTheFirstMarkerInAnyCase) {
-  EXPECT_EQ(presetField("range=1:Range=2", "Range=", 1), "1");
-  EXPECT_EQ(presetField("BandWidth=12", "BandWidth=", 3), "12");
-  EXPECT_EQ(presetField("BandWidth=", "BandWidth=", 3), "");
-  EXPECT_EQ(presetField("Band", "BandWidth=", 3), "");
-}
-
 }  // namespace

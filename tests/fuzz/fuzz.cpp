@@ -79,15 +79,15 @@ void command(const std::string& text) {
   platform::parseCommand(platform::programFolder() + text);
 }
 
-bool isNumber(const std::string& text, std::size_t length, double most) {
-  const bool digits = text.find_first_not_of("0123456789.") == std::string::npos;
-  return digits && text.size() >= length && std::stod(text) <= most;
+void requireNumber(const std::string& text, double most) {
+  require(text.find_first_not_of("0123456789.") == std::string::npos, "a number, not " + text);
+  require(text.empty() || std::stod(text) <= most, "not too large: " + text);
 }
 
 void output(const std::string& text) {
   const std::string first = durationSeconds(text).value_or("");
   const std::string ofRun = durationSecondsOfRun(text).value_or("");
-  require(ofRun.empty() ? first.empty() : isNumber(ofRun, 1, 86399), "length of the run: " + ofRun);
+  requireNumber(ofRun, 86399);
   require(first.empty() || first == ofRun, "the first length is that of the run");
   for (std::size_t begin = 0, count = 0; begin < text.size(); begin += count) {
     count = std::hash<std::string>()(text.substr(begin)) % 256 + 1;
@@ -96,12 +96,12 @@ void output(const std::string& text) {
     Form1->objDOS_ReceiveOutputs(piece);
     Form2->Form_Load();
     Form2->Timer1.setEnabled(false);
-    const std::string& seconds = AppState.SourceSeconds;
-    require(seconds.empty() || isNumber(seconds, 1, 86399), "SourceSeconds: " + seconds);
+    requireNumber(AppState.SourceSeconds, 86399);
     require(Form2->PBar.value() >= 0 && Form2->PBar.value() <= Form2->PBar.max(), "PBar");
     const std::string shown = Form2->Label1(2).caption();
     const std::string percent = shown.substr(10, shown.find('%') - 10);
-    require(shown == "Progress: " + percent + "% Completed" && isNumber(percent, 2, 100), shown);
+    require(shown == "Progress: " + percent + "% Completed", shown);
+    requireNumber(percent, 100);
   }
 }
 

@@ -69,13 +69,6 @@ TEST_F(StringWindow, SaysThatItIsDoneForAWhileAfterTheLastListing) {
   EXPECT_EQ(Form3->caption(), "FFmpeg Equalizer String");
 }
 
-TEST_F(StringWindow, StopsListingWhenItIsClosed) {
-  compose();
-  QTimer::singleShot(1, [] { click(Form3->Command1(1)); });
-  click(Form3->Command1(2));
-  EXPECT_FALSE(Form3.isLoaded());
-}
-
 TEST_F(StringWindow, CopiesWhatTheBoxShowsAndTellsUntilItIsEdited) {
   compose();
   QTest::keyClick(&box(), Qt::Key_Return);

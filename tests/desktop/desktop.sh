@@ -110,6 +110,11 @@ real_tool() {
   tool "$1" <<<"exec $(command -v "$1") \"\$@\""
 }
 
+# signal_tool STOP|CONT: holds the tool that runs, or lets it go on.
+signal_tool() {
+  marked | grep -vx "$running" | xargs kill -s "$1"
+}
+
 # run_program [ENVIRONMENT...]: by a link in $folder, where it then finds its tools.
 run_program() {
   ln -sf "$program" "$folder/tessavane"

@@ -7,7 +7,7 @@ target="$folder/out.wav"
 
 end_program() {
   case $1 in
-    Exit) click Exit ;;
+    Exit) click_at "${exit_button[@]}" ;;
     close) close_button ;;
     server) kill "${started[0]}" ;;
     *) kill -s "$1" "$running" ;;
@@ -39,6 +39,8 @@ for ending in close Exit TERM HUP server; do
   start_program LC_ALL=de_DE.UTF-8
   open_source "$source_file"
   click_at "$main" "$(band_x 18)" 70
+  wait_for find_control Exit
+  exit_button=("${place[@]}") # Looked up now, since the render does not wait for that.
   save_as "$target"
   wait_for writes_the_middle
   if [ "$ending" = TERM ]; then

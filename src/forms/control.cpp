@@ -107,14 +107,14 @@ bool Control::enabled() const {
 }
 
 void Control::setEnabled(bool enabled) {
-  // Qt hands the focus on to the next control, where a key that is meant for this one would fall: it stays
-  // nowhere until this one is enabled again, or the user moves it.
+  // Qt would hand the focus on to the next control, where a key that is meant for this one falls: it stays
+  // nowhere until this one is enabled again.
   if (!enabled && widget_->window()->focusWidget() == widget_) {
     keepsFocus_ = true;
     widget_->clearFocus();
   }
   widget_->setEnabled(enabled);
-  if (enabled && std::exchange(keepsFocus_, false) && widget_->window()->focusWidget() == nullptr) setFocus();
+  if (enabled && std::exchange(keepsFocus_, false)) setFocus();
 }
 
 void Control::setForeColor(Color color) {

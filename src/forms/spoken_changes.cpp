@@ -19,6 +19,7 @@ namespace forms {
 namespace {
 
 constexpr auto kAnnounced = "announced";
+constexpr auto kAtWork = "atWork";
 /// Milliseconds: of a value on its way, several a second are enough; an announcement is to come behind what a
 /// reader says about the focus, and once for keys that repeat.
 constexpr int kValuesAfter = 300;
@@ -87,9 +88,14 @@ void hearChange(QAccessibleEvent* event) {
   changes->hear(event);
 }
 
-bool isNewlyEnabled(const QAccessibleEvent* event, const QWidget* button) {
-  return event->type() == QAccessible::StateChanged && button->isEnabled() &&
-         static_cast<const QAccessibleStateChangeEvent*>(event)->changedStates().disabled;
+/// A button that is disabled before the eyes of the user, for the time of some work, is none that comes alive
+/// after it.
+bool comesAlive(const QAccessibleEvent* event, QWidget* button) {
+  if (event->type() != QAccessible::StateChanged) return false;
+  if (!static_cast<const QAccessibleStateChangeEvent*>(event)->changedStates().disabled) return false;
+  const bool works = button->property(kAtWork).toBool();
+  button->setProperty(kAtWork, !button->isEnabled());
+  return button->isEnabled() && !works;
 }
 
 void Changes::hear(QAccessibleEvent* event) {
@@ -102,7 +108,7 @@ void Changes::hear(QAccessibleEvent* event) {
   const bool isNewText =
       event->type() == QAccessible::TextInserted || event->type() == QAccessible::TextUpdated;
   const bool isLine = isNewText && qobject_cast<QLineEdit*>(widget);
-  const bool isButton = qobject_cast<QPushButton*>(widget) && isNewlyEnabled(event, widget);
+  const bool isButton = qobject_cast<QPushButton*>(widget) && comesAlive(event, widget);
   if (isLine || isButton || (isText && widget->property(kAnnounced).toBool())) announce(widget);
   if (!isNumber && !isText) return pass(event);
   note(values_, widget);

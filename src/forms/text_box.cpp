@@ -70,7 +70,14 @@ TextBox::TextBox(FormWindow& form, const ControlData& data)
       text_(data.text) {
   auto* filter = new TextBoxFilter(*this);
   widget()->installEventFilter(filter);
-  if (editor_ == nullptr) return;
+  if (editor_ == nullptr) {
+    // The accessibility bus can write into a box that is read-only.
+    auto* line = static_cast<QLineEdit*>(widget());
+    QObject::connect(line, &QLineEdit::textChanged, line, [this, line](const QString& now) {
+      if (now != toQt(text_)) line->setText(toQt(text_));
+    });
+    return;
+  }
   editor_->viewport()->installEventFilter(filter);
   QObject::connect(editor_, &QPlainTextEdit::textChanged, editor_, [this] { edited(); });
 }

@@ -24,6 +24,16 @@ TEST_F(Controls, AClickOnAChosenOptionRaisesAnAssignmentOfWhatIsThereDoesNot) {
   EXPECT_EQ(events, "04");
 }
 
+TEST_F(Controls, ArrowKeysWalkThePresetsInOrderAndStopAtTheEnds) {
+  for (int i = 0; i <= 6; ++i) record(Form1->Option1(i).onClick, std::to_string(i));
+  ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));
+  Form1->Option1(0).setFocus();
+  for (int i = 0; i < 7; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(events, "123456");
+  for (int i = 0; i < 7; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+  EXPECT_EQ(events, "123456543210");
+}
+
 TEST_F(Controls, ShowTextAsItIs) {
   const std::string nasty = "<b>&x.wav & <%y%>";
   Form1->Label7(4).setCaption(nasty);

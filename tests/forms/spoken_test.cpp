@@ -1,0 +1,128 @@
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QButtonGroup>
+#include <QSlider>
+
+#include "support/session.h"
+
+namespace {
+
+QAccessibleInterface& spoken(const QWidget* widget) {
+  return *QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+}
+std::string name(const forms::Control& control) {
+  return spoken(control.widget()).text(QAccessible::Name).toStdString();
+}
+
+/// All three windows, with a record of what their controls raise. Push buttons do nothing else.
+class Spoken : public support::Session {
+ protected:
+  Spoken() {
+    Form2->show(&*Form1);
+    Form3->show(&*Form1);
+    Form1->EnableSourceButtons(true);
+    const auto justNote = [this](auto& button) { button.onClick = [this](int) { events += "click"; }; };
+    Form1->Command1.each(justNote);
+    justNote(Form2->Command1);
+    Form3->Command1.each(justNote);
+    const auto noteClick = [this](auto& option) { record(option.onClick, "click"); };
+    Form1->Option1.each(noteClick);
+    Form1->Option2.each(noteClick);
+    Form1->Option3.each(noteClick);
+    noteClick(Form1->Check1);
+  }
+
+  template <class Widget>
+  static QList<Widget*> all() {
+    QList<Widget*> widgets;
+    for (const forms::Control* control : {&Form1->Command1(0), &Form2->Command1, &Form3->Command1(0)})
+      widgets += windowOf(*control)->findChildren<Widget*>();
+    return widgets;
+  }
+  /// Has another button of its group chosen, where it has one.
+  static void leave(const QAbstractButton* button) {
+    if (button->group() == nullptr) return;
+    for (QAbstractButton* other : button->group()->buttons())
+      if (other != button) other->click();
+  }
+};
+
+TEST_F(Spoken, EachActionOnEachButtonIsAClickByHand) {
+  int clicked = 0;
+  for (QAbstractButton* button : all<QAbstractButton>()) {
+    QAccessibleActionInterface* actions = spoken(button).actionInterface();
+    for (const QString& action : actions->actionNames()) {
+      const bool onlyFocus = action == QAccessibleActionInterface::setFocusAction();
+      leave(button);
+      const bool before = button->isChecked();
+      events.clear();
+      actions->doAction(action);
+      support::waitFor([&] { return onlyFocus || !events.empty(); });
+      const std::string what = (button->objectName() + " " + action).toStdString();
+      EXPECT_EQ(events.starts_with("click"), !onlyFocus) << what;
+      EXPECT_EQ(button->isChecked() != before, button->isCheckable() && !onlyFocus) << what;
+      EXPECT_TRUE(button->window()->focusWidget() == button || !onlyFocus) << what;
+      EXPECT_EQ(support::outOfStep(), "") << what;
+      clicked += !onlyFocus;
+    }
+  }
+  EXPECT_EQ(clicked, 7 + 1 + 4 + 7 + 2 + 2 + 1) << "buttons of three windows, options and a box";
+}
+
+TEST_F(Spoken, EachSliderTakesAValueAsItTakesAStepByHand) {
+  const auto noteStep = [this](forms::Slider& slider) {
+    record(slider.onScroll, "S");
+    record(slider.onChange, "C");
+  };
+  Form1->Slider1.each(noteStep);
+  noteStep(Form1->Slider2);
+  noteStep(Form1->Slider3);
+  for (QSlider* slider : all<QSlider>()) {
+    QAccessibleValueInterface* value = spoken(slider).valueInterface();
+    const double next = value->currentValue().toDouble() + value->minimumStepSize().toDouble();
+    events.clear();
+    value->setCurrentValue(next);
+    EXPECT_EQ(events, "SC") << slider->objectName().toStdString();
+    EXPECT_EQ(value->currentValue().toDouble(), next) << slider->objectName().toStdString();
+  }
+}
+
+TEST_F(Spoken, TextIsWrittenWhereAHandCanWrite) {
+  record(Form3->Text1.onChange, "C");
+  spoken(Form1->Text1.widget()).editableTextInterface()->insertText(0, "x");
+  EXPECT_EQ(static_cast<QLineEdit*>(Form1->Text1.widget())->text().toStdString(), Form1->Text1.text());
+  spoken(Form3->Text1.widget()).editableTextInterface()->insertText(0, "x");
+  EXPECT_EQ(events, "C");
+  EXPECT_EQ(Form3->Text1.text(), "x");
+}
+
+TEST_F(Spoken, ABarThatIsEmptiedIsAtItsEndUntilItFillsAgain) {
+  const std::pair<double, double> steps[] = {{60, 60}, {0, 100}, {5, 5}};
+  for (const auto& [value, heard] : steps) {
+    Form2->PBar.setValue(value);
+    EXPECT_EQ(spoken(Form2->PBar.widget()).valueInterface()->currentValue(), heard);
+  }
+}
+
+TEST_F(Spoken, ATipIsNoDescription) {
+  Form1->Option3(0).onMouseMove(0);
+  ASSERT_NE(Form1->Option3(0).toolTipText(), "");
+  EXPECT_EQ(spoken(Form1->Option3(0).widget()).text(QAccessible::Description), "");
+}
+
+TEST_F(Spoken, GroupsAndTheirOptionsHaveNamesThatCanBeSaid) {
+  EXPECT_EQ(name(Form1->Option2(0)), "plus or minus 12 dB");
+  EXPECT_EQ(name(Form1->Option2(1)), "plus or minus 6 dB");
+  EXPECT_EQ(name(Form1->Option3(0)), "Low Cut On");
+  const QAccessibleInterface* group = spoken(Form1->Option2(0).widget()).parent();
+  EXPECT_EQ(group->text(QAccessible::Name), "EQ Range");
+  EXPECT_EQ(group->role(), QAccessible::Grouping);
+}
+
+TEST_F(Spoken, TheFocusIsOnTheTextAgainAfterAListing) {
+  Form3->Text1.setText("equalizer=f=19,equalizer=f=20");
+  Form3->ListIndividualStrings();
+  EXPECT_EQ(windowOf(Form3->Text1)->focusWidget(), Form3->Text1.widget());
+}
+
+}  // namespace

@@ -64,19 +64,24 @@ in_background() {
 }
 
 start_desktop() {
+  start_display
+  window_manager_settings >"$scratch/openbox.xml"
+  in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
+  wait_for desktop_is_managed
+}
+
+# Without a window manager.
+start_display() {
   local needed
   for needed in Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
     command -v "$needed" >/dev/null || fail "$needed is not installed"
   done
-  in_background Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display"
+  in_background Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset 3>"$scratch/display"
   wait_for test -s "$scratch/display"
   DISPLAY=:$(cat "$scratch/display")
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
   export DISPLAY HOME XDG_RUNTIME_DIR
   mkdir -m 700 "$HOME"
-  window_manager_settings >"$scratch/openbox.xml"
-  in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
-  wait_for desktop_is_managed
 }
 
 # No click inside a window concerns the window manager: one that looks at each first holds the mouse events of

@@ -76,9 +76,9 @@ QIcon windowIcon() {
 }  // namespace
 
 Application::Application() {
-  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a program
-  // that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is not
-  // inherited by child processes, as a changed environment would be.
+  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a
+  // program that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is
+  // not inherited by child processes, as a changed environment would be.
   static char name[] = "tessavane", option[] = "-platformtheme", theme[] = "generic";
   static char* arguments[] = {name, option, theme, nullptr};
   static int count = 3;

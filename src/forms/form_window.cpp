@@ -94,8 +94,8 @@ void FormSurface::applyOuterSize() {
   const QSizeF outer = QSizeF(form_.width(), form_.height()) / kTwipsPerPixel;
   const bool isForced = oneSize_ && isVisible() && size() != requestedSize_;
   requestedSize_ = outer.toSize().shrunkBy(assumedFrame_).expandedTo(QSize(1, 1));
-  // A manager that has overruled the size once, as tiling ones do, refuses any other without a word to Qt, which
-  // would not paint the rest of the window.
+  // A manager that has overruled the size once, as tiling ones do, refuses any other without a word to Qt,
+  // which would not paint the rest of the window.
   if (isForced) return;
   if (oneSize_)
     setFixedSize(requestedSize_);

@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QWindow>
 
 #include "support/session.h"
@@ -20,6 +21,14 @@ class StringWindow : public support::Session {
 TEST_F(StringWindow, BelongsToTheMainWindow) {
   EXPECT_EQ(windowOf(Form3->Text1)->windowHandle()->transientParent(),
             windowOf(Form1->Label6)->windowHandle());
+}
+
+/// The screen is narrower than the main window.
+TEST_F(StringWindow, StandsInTheMiddleOfTheMainWindowAsFarAsTheScreenGoes) {
+  const QWidget* window = windowOf(Form3->Text1);
+  const QRect main = windowOf(Form1->Label6)->frameGeometry();
+  EXPECT_NEAR(window->frameGeometry().center().y(), main.center().y(), 1);
+  EXPECT_EQ(window->frameGeometry().right(), window->screen()->availableGeometry().right());
 }
 
 TEST_F(StringWindow, ShowsEveryChainAndStandsEmptyWhenItIsOpenedAnew) {

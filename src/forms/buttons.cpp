@@ -68,6 +68,8 @@ void CommandButton::setCaption(const std::string& caption) {
   caption_ = caption;
   auto* button = static_cast<QPushButton*>(widget());
   button->setText(literal(caption));
+  constexpr int kEdges = 8;
+  button->setFont(narrowed(button->font(), toQt(caption), button->width() - kEdges));
   button->setAccessibleName(toQt(caption).trimmed());
 }
 

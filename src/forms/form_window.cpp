@@ -129,7 +129,7 @@ void FormSurface::bringForward() {
 /// Tells the form of a new size or state, once it is shown.
 void FormSurface::reportState() {
   if (!isVisible()) return;
-  // The window manager, which alone can make it so, then puts it back to where it was.
+  // The window manager, which alone can have made it so, puts it back to where it was.
   if (oneSize_ && isFullScreen()) return setWindowState(windowState() & ~Qt::WindowFullScreen);
   const bool wasMinimised = std::exchange(minimised_, isMinimized());
   if (minimised_) {

@@ -6,7 +6,6 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
-#include <algorithm>
 
 #include "forms/form_data.h"
 
@@ -122,15 +121,17 @@ QFont fontOf(double points, bool bold) {
   QFont font("Arial");
   // In pixels: how many a point has is the desktop's choice, and the layout's are fixed.
   font.setPixelSize(qRound(points * 96 / 72));
+  font.setStyleHint(QFont::SansSerif);
   font.setBold(bold);
   return font;
 }
 
 QFont narrowed(QFont font, const QString& text, int width) {
   font.setStretch(QFont::AnyStretch);
-  const int needed = QFontMetrics(font).horizontalAdvance(text);
-  if (needed > width)
-    font.setStretch(std::max(width * 100 / needed, static_cast<int>(QFont::UltraCondensed)));
+  // Hinted letters do not shrink in proportion: a narrower font can still be too wide.
+  int stretch = QFont::Unstretched;
+  while (QFontMetrics(font).horizontalAdvance(text) > width && stretch > QFont::UltraCondensed)
+    font.setStretch(stretch -= 5);
   return font;
 }
 

@@ -64,6 +64,14 @@ in_background() {
 }
 
 start_desktop() {
+  start_display
+  window_manager_settings >"$scratch/openbox.xml"
+  in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
+  wait_for desktop_is_managed
+}
+
+# Without a window manager.
+start_display() {
   local needed
   for needed in Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
     command -v "$needed" >/dev/null || fail "$needed is not installed"
@@ -75,9 +83,6 @@ start_desktop() {
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
   export DISPLAY HOME XDG_RUNTIME_DIR
   mkdir -m 700 "$HOME"
-  window_manager_settings >"$scratch/openbox.xml"
-  in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
-  wait_for desktop_is_managed
 }
 
 # No click inside a window concerns the window manager: one that looks at each first holds the mouse events of

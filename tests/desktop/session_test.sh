@@ -103,10 +103,12 @@ render() {
 }
 
 start_desktop
-real_tool ffprobe
+tool ffprobe <<<"env >\"\$0.env\"; exec $(command -v ffprobe) \"\$@\""
 real_tool ffmpeg
-start_program
+start_program QT_QPA_PLATFORMTHEME=qt6ct
 open_the_source
+grep -q libqt6ct "/proc/$running/maps" && fail "the theme of the desktop is loaded"
+expect "the tools' theme" QT_QPA_PLATFORMTHEME=qt6ct "$(grep ^QT_QPA_PLATFORMTHEME= "$folder/ffprobe.env")"
 set_everything
 check_the_picture
 keep_in_preset

@@ -69,6 +69,23 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
   }
 }
 
+TEST_F(MainWindowTest, SizesItsFontsInPixels) {
+  EXPECT_EQ(Form1->Command1(0).widget()->font().pixelSize(), 11);
+  EXPECT_EQ(Form1->Label1(0).widget()->font().pixelSize(), 9);
+}
+
+TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
+  forms::Label& caption = Form1->Label8(3);
+  const auto needed = [&] {
+    return caption.widget()->fontMetrics().horizontalAdvance(QString::fromStdString(caption.caption()));
+  };
+  const std::string before = caption.caption();
+  caption.setCaption(before + " and a bit more");
+  EXPECT_LE(needed(), caption.widget()->width());
+  caption.setCaption(before);
+  EXPECT_EQ(caption.widget()->font().stretch(), Form1->Label8(1).widget()->font().stretch());
+}
+
 /// The name of a box stands for that option button in it that takes the focus.
 TEST_F(MainWindowTest, TabsWalkTheStoredOrderFromTheFirstButton) {
   ASSERT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); }));

@@ -1,9 +1,7 @@
 #include <QImage>
 #include <QScreen>
-#include <cmath>
 
 #include "support/session.h"
-#include "windows/colors.h"
 
 namespace {
 
@@ -62,74 +60,6 @@ TEST_F(Picture, FillsNoPartOfAGroove) {
     const QImage behind = shown(window).copy(middle);
     slider->setValue(slider->max());
     EXPECT_EQ(behind, shown(window).copy(middle)) << slider->widget()->objectName().toStdString();
-  }
-}
-
-double luminance(QRgb color) {
-  const auto linear = [](int level) {
-    const double part = level / 255.0;
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
-}
-
-/// As the guidelines for accessible content (WCAG) measure it: 1 to 21.
-double contrast(QRgb one, QRgb other) {
-  const double lights[] = {luminance(one) + 0.05, luminance(other) + 0.05};
-  return std::max(lights[0], lights[1]) / std::min(lights[0], lights[1]);
-}
-
-/// The pixels that differ by a contrast of 3 at least.
-QImage marked(const QImage& without, const QImage& with) {
-  QImage mark(with.size(), QImage::Format_Grayscale8);
-  for (int y = 0; y < mark.height(); ++y)
-    for (int x = 0; x < mark.width(); ++x)
-      mark.setPixelColor(x, y, contrast(without.pixel(x, y), with.pixel(x, y)) >= 3 ? Qt::white : Qt::black);
-  return mark;
-}
-
-/// The smallest share that a side of the box around all marked pixels has of them: small where one is
-/// clipped.
-double smallestSide(const QImage& mark) {
-  const auto isMarked = [&mark](int x, int y) { return qGray(mark.pixel(x, y)) > 0; };
-  QRect box;
-  for (int y = 0; y < mark.height(); ++y)
-    for (int x = 0; x < mark.width(); ++x)
-      if (isMarked(x, y)) box |= QRect(x, y, 1, 1);
-  if (box.width() < 5 || box.height() < 5) return 0;
-  double counts[4] = {};
-  for (int x = box.left(); x <= box.right(); ++x) {
-    counts[0] += isMarked(x, box.top());
-    counts[1] += isMarked(x, box.bottom());
-  }
-  for (int y = box.top(); y <= box.bottom(); ++y) {
-    counts[2] += isMarked(box.left(), y);
-    counts[3] += isMarked(box.right(), y);
-  }
-  return std::min(std::min(counts[0], counts[1]) / box.width(),
-                  std::min(counts[2], counts[3]) / box.height());
-}
-
-TEST_F(Picture, MarksTheControlThatHasTheFocusOnAllSides) {
-  Form1->EnableSourceButtons(true);
-  Form2->show(&*Form1);
-  Form3->show(&*Form1);
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    for (QWidget* widget : window->findChildren<QWidget*>()) {
-      const bool ownFocus = widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr;
-      if (!ownFocus || !widget->isVisible() || !widget->isEnabled()) continue;
-      for (const forms::Color ground : {forms::kButtonFace, kLightGrey}) {
-        Form1->Text1.setBackColor(ground);
-        widget->activateWindow();
-        ASSERT_TRUE(support::waitFor([&] { return widget->isActiveWindow(); }));
-        widget->setFocus();
-        const QRect place(widget->mapTo(window, QPoint()), widget->size());
-        const QImage with = window->grab(place).toImage();
-        widget->clearFocus();
-        EXPECT_GT(smallestSide(marked(window->grab(place).toImage(), with)), 0.6)
-            << widget->objectName().toStdString();
-      }
-    }
   }
 }
 

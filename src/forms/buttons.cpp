@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <utility>
 
 #include "forms/style.h"
 #include "forms/surface.h"
@@ -88,7 +89,10 @@ OptionButton::OptionButton(FormWindow& form, const ControlData& data) : Control(
   chosen_ = [this](int index) {
     if (value() && onClick) onClick(index);
   };
-  QObject::connect(button, &QRadioButton::clicked, button, [this] { raise(chosen_); });
+  QObject::connect(button, &QRadioButton::toggled, button, [this](bool checked) { fresh_ = checked; });
+  QObject::connect(button, &QRadioButton::clicked, button, [this, again = data.look.clicksAgain] {
+    if (std::exchange(fresh_, false) || again) raise(chosen_);
+  });
 }
 
 bool OptionButton::value() const {
@@ -100,6 +104,7 @@ void OptionButton::setValue(bool value) {
   auto* button = static_cast<QRadioButton*>(widget());
   if (value) {
     button->setChecked(true);
+    fresh_ = false;
     raise(onClick);
     return;
   }

@@ -19,8 +19,9 @@ class CommandButton : public Control {
   std::string caption_;
 };
 
-/// One choice of those in the same container. A click by hand always raises Click; assigning True raises it
-/// where the button was not selected; assigning False empties the group and raises nothing.
+/// One choice of those in the same container. A click by hand or assigning True raises Click where the button
+/// was not selected; where the form data say so, a click on the selected one raises it as well. Assigning
+/// False empties the group and raises nothing.
 class OptionButton : public Control {
  public:
   OptionButton(FormWindow& form, const ControlData& data);
@@ -32,6 +33,8 @@ class OptionButton : public Control {
 
  private:
   Event chosen_;
+  /// Selected by the click whose Click is about to come.
+  bool fresh_ = false;
 };
 
 /// A box that is checked (1) or not (0).

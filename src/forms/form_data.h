@@ -47,6 +47,7 @@ struct Look {
   bool hidden = false;
   bool outOfSight = false;  ///< visible by its own flag, but where neither the eye nor the keyboard gets to
   bool selected = false;
+  bool clicksAgain = false;  ///< option buttons: a click by hand counts while it is selected, too
 };
 
 /// One control that is a widget. Geometry in twips inside its container ("" is the form, "Picture1(0)" a
@@ -106,6 +107,8 @@ struct FormData {
   bool maximiseButton = false;
   /// The window belongs to another and has no entry of its own in the task bar.
   bool owned = false;
+  /// Closing the window ends the program, even while a tool runs.
+  bool endsProgram = false;
   std::span<const ControlData> controls;
   std::span<const LineData> lines = {};
   std::span<const SliderData> sliders = {};

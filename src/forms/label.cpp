@@ -1,6 +1,7 @@
 #include "forms/label.h"
 
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPalette>
 #include <cmath>
@@ -16,8 +17,19 @@ namespace {
 constexpr Qt::AlignmentFlag kFlags[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 constexpr double kLeftShares[] = {0, 1, 0.5};
 
+/// The lines of its container lie on top of it: it paints those that cross it itself.
+class LabelWidget : public QLabel {
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.translate(-pos());
+    static_cast<const Surface*>(parentWidget())->paintLines(painter, event->rect().translated(pos()));
+  }
+};
+
 QLabel* makeLabel() {
-  auto* label = new QLabel;
+  auto* label = new LabelWidget;
   label->setTextFormat(Qt::PlainText);
   label->setMinimumSize(0, 0);
   return label;
@@ -39,6 +51,7 @@ class Outline : public QWidget {
 Label::Label(FormWindow& form, const ControlData& data)
     : Control(form, data, makeLabel()), autoSize_(data.look.autoSize), elided_(data.look.elided) {
   if (data.look.announced) setAnnounced(*widget());
+  container().addLabel(widget());
   setAlignment(data.look.alignment);
   setTransparent(data.look.transparent);
   setCaption(data.text);

@@ -13,8 +13,9 @@ namespace forms {
 namespace {
 
 constexpr QRgb kFace = 0xFFD8D8D8;
-constexpr QRgb kFocus = 0xFF3070C0;
-constexpr QRgb kFocusedThumb = 0xFF80B0F0;
+/// Dark enough to stand out from each ground that it lies on, greys and white, by at least 3 to 1.
+constexpr QRgb kFocus = 0xFF104E9E;
+constexpr QRgb kFocusedThumb = 0xFF104E9E;
 
 QPalette lightPalette() {
   QPalette palette{QColor(kFace)};
@@ -32,16 +33,11 @@ QPalette lightPalette() {
   return palette;
 }
 
-/// Sliders keep an empty groove: what is coloured beside them are the program's own bars. The one that has
-/// the focus, of many, shows it by its whole thumb.
+/// No part of a slider's groove is filled: what is coloured beside it are the program's own bars. The one
+/// that has the focus, of many, shows it by its whole thumb.
 class Style : public QProxyStyle {
  public:
-  Style()
-      : QProxyStyle(QStyleFactory::create("Fusion")),
-        handle_(lightPalette()),
-        groove_(handle_),
-        focus_(handle_) {
-    groove_.setColor(QPalette::Highlight, QColor(0xB8B8B8));
+  Style() : QProxyStyle(QStyleFactory::create("Fusion")), plain_(lightPalette()), focus_(plain_) {
     focus_.setColor(QPalette::Button, QColor(kFocusedThumb));
   }
 
@@ -57,23 +53,34 @@ class Style : public QProxyStyle {
     painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
     QStyleOptionSlider part = *slider;
     part.subControls = slider->subControls & ~SC_SliderHandle;
-    part.palette = groove_;
+    part.palette = plain_;
     part.state &= ~State_HasFocus;
+    // Fusion fills the groove up to the thumb.
+    part.sliderPosition = slider->minimum;
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
-    part.state = slider->state;
+    part = *slider;
     part.subControls = SC_SliderHandle;
-    part.palette = slider->state & State_HasFocus ? focus_ : handle_;
+    part.palette = slider->state & State_HasFocus ? focus_ : plain_;
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
   }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isMark = element == PE_FrameFocusRect;
+    if (!isMark) QProxyStyle::drawPrimitive(element, option, painter, widget);
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-    // A box without a frame has no other sign of the focus, once nothing in it is selected.
-    if (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth == 0 &&
-        frame->state & State_HasFocus)
-      drawOutline(*painter, frame->rect, QColor(kFocus));
+    // A box for text has no other sign of the focus, once nothing in it is selected.
+    const bool isBox =
+        element == PE_Frame || (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth == 0);
+    if (isMark || (isBox && option->state & State_HasFocus))
+      drawOutline(*painter, option->rect, QColor(kFocus));
+  }
+
+  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override {
+    const QRect extent = QProxyStyle::subElementRect(element, option, widget);
+    const bool isMark = element == SE_RadioButtonFocusRect || element == SE_CheckBoxFocusRect;
+    // The neighbours of an option button cover its first and last row of pixels.
+    return isMark ? extent & option->rect.adjusted(0, 1, 0, -1) : extent;
   }
 
   SubControl hitTestComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -93,8 +100,7 @@ class Style : public QProxyStyle {
  private:
   // Fusion keeps pictures of the parts of sliders that it has drawn, by palette object: each slider's own
   // palette, though equal to the others, would have it draw all parts anew.
-  QPalette handle_;
-  QPalette groove_;
+  QPalette plain_;
   QPalette focus_;
 };
 

@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QWidget>
 #include <deque>
+#include <vector>
 
 #include "forms/drawn_line.h"
 #include "forms/form_data.h"
@@ -27,18 +28,25 @@ class Surface : public QWidget {
 
   /// The line stays where it is for as long as the surface lives.
   DrawnLine& addLine(const DrawnLine& line) { return lines_.emplace_back(line); }
+  /// Has `label`, which stands on this surface, painted anew with each line that crosses it.
+  void addLabel(QWidget* label) { labels_.push_back(label); }
   /// Has the place of `line` painted anew: to be called before and after a change.
   void updateLine(const DrawnLine& line);
-  /// Paints all lines, with `painter` in the coordinates of this widget. Leaves it clipped and scaled.
-  void paintLines(QPainter& painter) const;
+  /// Paints what the lines have inside `extent`, with `painter` in the coordinates of this widget, as
+  /// `extent`. Leaves it clipped and scaled.
+  void paintLines(QPainter& painter, const QRect& extent) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// The pixels of this widget that `line` can touch.
+  QRect extentOf(const DrawnLine& line) const;
+
   bool border_;
   Scale scale_;
   std::deque<DrawnLine> lines_;
+  std::vector<QWidget*> labels_;
   QButtonGroup options_;
 };
 

@@ -52,11 +52,14 @@ class Style : public QProxyStyle {
     // the spans to threads that have to be started first.
     painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
     QStyleOptionSlider part = *slider;
-    part.subControls = slider->subControls & ~SC_SliderHandle;
     part.palette = plain_;
     part.state &= ~State_HasFocus;
     // Fusion fills the groove up to the thumb.
     part.sliderPosition = slider->minimum;
+    part.subControls = SC_SliderGroove;
+    QProxyStyle::drawComplexControl(control, &part, painter, widget);
+    // Its ticks take the colour of whatever it drew last, where it has just made its picture of the groove.
+    part.subControls = slider->subControls & SC_SliderTickmarks;
     QProxyStyle::drawComplexControl(control, &part, painter, widget);
     part = *slider;
     part.subControls = SC_SliderHandle;

@@ -1,7 +1,7 @@
 #!/bin/bash
 # The whole work by keys alone, as one does it who hears the program: on X11, or on Wayland where the second
 # argument says so.
-. "$(dirname "$0")/desktop.sh"
+. "$(dirname "$0")/../../docs/desktop.sh"
 
 heard() { grep -sqxF "$1" "$scratch/heard"; }
 focus() { grep '^focused 1' "$scratch/heard" | tail -n 1 | cut -d'|' -f2; }

@@ -1,6 +1,6 @@
 #!/bin/bash
 # Whatever ends the program in the middle of a render, it is gone at once and the tool finishes the file.
-. "$(dirname "$0")/desktop.sh"
+. "$(dirname "$0")/../../docs/desktop.sh"
 
 source_file="$scratch/noise.wav"
 target="$folder/out.wav"

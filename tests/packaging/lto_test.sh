@@ -1,6 +1,6 @@
 #!/bin/bash
 # A program that was optimized when it was linked shows its window.
-. "$(dirname "$0")/../desktop/desktop.sh"
+. "$(dirname "$0")/../../docs/desktop.sh"
 
 start_desktop
 start_program

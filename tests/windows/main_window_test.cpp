@@ -108,6 +108,7 @@ TEST_F(MainWindowTest, ShowsABandWithItsBarAndColourAlsoWhileBarsAreHidden) {
       {1, -3, "3db", kYellow}, {1, -5, "5db", kYellow},  {1, -6, "6db", kRed}};
   click(Form1->Check1);
   for (const auto& [range, value, text, color] : rows) {
+    click(Form1->Option2(1 - range));
     click(Form1->Option2(range));
     EXPECT_EQ(Form1->Slider1(19).value(), 0) << "not put to 0";
     Form1->Slider1(19).setValue(value);

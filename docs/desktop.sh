@@ -9,7 +9,7 @@ folder="$scratch/app"
 mkdir "$folder"
 started=()
 main=0
-sources=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../src")
+sources=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../src")
 trap finish EXIT
 trap 'exit 1' INT TERM HUP
 
@@ -178,8 +178,8 @@ find_control() {
       border = /border = true/ ? 15 : 0
       left[control] = x + border
       top[control] = y + border
-      sub(/^ /, "", $(NF - 1))
-      if ($(NF - 1) == name && !middle) middle = int((x + number[6] / 2) / 15) " " int((y + number[7] / 2) / 15)
+      sub(/^ /, "", $6)
+      if (($6 == name || $8 == name) && !middle) middle = int((x + number[6] / 2) / 15) " " int((y + number[7] / 2) / 15)
     }
     / \.caption = / { if (middle) found[$2] = middle }
     END {

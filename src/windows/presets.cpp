@@ -34,17 +34,31 @@ void select(forms::ControlArray<forms::OptionButton>& options, std::string_view 
   }
 }
 
-/// Applies the four marked fields of `line`, and to band number `pass` its element.
-void applyPass(const std::string& line, const std::vector<std::string_view>& elements, int pass) {
+/// What a preset line holds, read once for all passes.
+struct Preset {
+  explicit Preset(std::string_view line)
+      : elements(presetElements(line)),
+        range(presetField(line, "Range=", 1)),
+        lowCut(presetField(line, "LowCut=", 1)),
+        bandWidth(wholeNumber(presetField(line, "BandWidth=", 3))),
+        gain(gainPosition(presetField(line, "AudioGain=", 4))) {}
+
+  std::vector<std::string_view> elements;
+  std::string_view range, lowCut;
+  std::optional<long long> bandWidth, gain;
+};
+
+/// Applies the marked fields of `preset`, and to band number `pass` its element.
+void applyPass(const Preset& preset, int pass) {
   AppState.PresetPass += 1;
-  select(Form1->Option2, presetField(line, "Range=", 1));
-  select(Form1->Option3, presetField(line, "LowCut=", 1));
-  assign(Form1->Slider3, wholeNumber(presetField(line, "BandWidth=", 3)));
-  assign(Form1->Slider2, gainPosition(presetField(line, "AudioGain=", 4)));
+  select(Form1->Option2, preset.range);
+  select(Form1->Option3, preset.lowCut);
+  assign(Form1->Slider3, preset.bandWidth);
+  assign(Form1->Slider2, preset.gain);
   Form1->Slider2_Scroll();
   const auto element = static_cast<std::size_t>(pass);
-  if (AppState.PresetPass <= kBands && element < elements.size())
-    assign(Form1->Slider1(pass), wholeNumber(elements[element]));
+  if (AppState.PresetPass <= kBands && element < preset.elements.size())
+    assign(Form1->Slider1(pass), wholeNumber(preset.elements[element]));
 }
 
 }  // namespace
@@ -63,8 +77,8 @@ void LoadPreset(int PresetIndex) {
   AppState.PresetPass = 0;
   const std::string line =
       platform::profileString(sectionName(PresetIndex), kKey, "1", kLineBuffer, AppState.PresetFilePath);
-  const auto elements = presetElements(line);
-  for (int pass = 0; pass < static_cast<int>(line.size()); ++pass) applyPass(line, elements, pass);
+  const Preset preset(line);
+  for (int pass = 0; pass < static_cast<int>(line.size()); ++pass) applyPass(preset, pass);
   Form1->Label7(7).setCaption("Selected Frequency Value:  0db");
 }
 

@@ -103,6 +103,9 @@ render() {
 }
 
 start_desktop
+/usr/bin/python3 "$(dirname "$0")/clipboard_manager.py" >"$scratch/handed over" 2>/dev/null &
+started+=($!)
+disown
 tool ffprobe <<<"env >\"\$0.env\"; exec $(command -v ffprobe) \"\$@\""
 real_tool ffmpeg
 start_program QT_QPA_PLATFORMTHEME=qt6ct
@@ -116,6 +119,8 @@ move_everything
 load_the_preset
 copy_the_string
 render
+copy_the_string
 click Exit
 program_has_ended_well
+expect "what the clipboard manager was handed" "$chain" "$(cat "$scratch/handed over")"
 expect "what still runs" "" "$(marked)"

@@ -2,22 +2,20 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QIcon>
-#include <QPointer>
 #include <QSettings>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <utility>
 #include <vector>
 
+#include "forms/held_input.h"
 #include "forms/spoken.h"
 #include "forms/style.h"
 
@@ -25,6 +23,7 @@ namespace forms {
 namespace {
 
 QApplication* application = nullptr;
+HeldInput* heldInput = nullptr;
 bool waiting = false;
 bool ended = false;
 
@@ -35,18 +34,15 @@ struct Deferred {
 
 std::vector<Deferred> deferred;
 
-class Wait : public QObject {
+class Wait {
  public:
   Wait() {
     waiting = true;
-    application->installEventFilter(this);
+    heldInput->hold();
   }
-  ~Wait() override {
+  ~Wait() {
     waiting = false;
-    for (auto& [window, key] : keys_)
-      if (window) QCoreApplication::postEvent(window, key.release());
-    // The event loop would look at the input that it has left unserved only when the desktop sends more.
-    QAbstractEventDispatcher::instance()->wakeUp();
+    heldInput->release();
     for (const Deferred& due : std::exchange(deferred, {})) {
       // The next wait can begin before the event loop gets here.
       const auto again = [due] { Application::runOrDefer(due.event, due.action); };
@@ -55,19 +51,6 @@ class Wait : public QObject {
   }
   Wait(const Wait&) = delete;
   Wait& operator=(const Wait&) = delete;
-
-  /// While a screen reader runs, Qt lets the accessibility bus see each key first and posts it to the window
-  /// after the answer. A posted event is no input to Qt, which would serve it inside the wait: it is kept
-  /// here until after that.
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!isKey || !watched->isWindowType()) return false;
-    keys_.emplace_back(watched, event->clone());
-    return true;
-  }
-
- private:
-  std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> keys_;
 };
 
 /// Gives all windows their icon behind the first frame: for the first picture file Qt looks through all its
@@ -115,6 +98,7 @@ Application::Application() {
   application = new QApplication(count, arguments);
   fontconfig.join();
   fonts_ = std::thread([] { QFontDatabase::families(); });
+  heldInput = new HeldInput(application);
   installSpokenWidgets();
   applyStyle();
   new LateIcon(application);
@@ -137,9 +121,8 @@ void Application::doEvents() {
 
 void Application::waitPainting(int descriptor, int milliseconds) {
   const Wait wait;
-  constexpr auto kPaintOnly = QEventLoop::ExcludeUserInputEvents;
   if (milliseconds == 0) {
-    QCoreApplication::processEvents(kPaintOnly);
+    QCoreApplication::processEvents();
     return;
   }
   bool over = false;
@@ -154,7 +137,7 @@ void Application::waitPainting(int descriptor, int milliseconds) {
   limit.setSingleShot(true);
   QObject::connect(&limit, &QTimer::timeout, stop);
   if (milliseconds > 0) limit.start(milliseconds);
-  loop.exec(kPaintOnly);
+  loop.exec();
   // Where the display is lost, Qt ends the process; from 6.11 on it calls `QCoreApplication::exit` instead,
   // which makes every event loop return, this one and any begun later, but not the run that waits here.
   if (!over) std::_Exit(1);
@@ -168,6 +151,13 @@ void Application::runOrDefer(const void* event, const std::function<void()>& act
   if (!isDeferring()) return action();
   if (std::ranges::find(deferred, event, &Deferred::event) == deferred.end())
     deferred.push_back({event, action});
+}
+
+void Application::runInWait(const std::function<void()>& action) {
+  if (ended) return;
+  const bool before = std::exchange(waiting, false);
+  action();
+  waiting = before;
 }
 
 void Application::end() {

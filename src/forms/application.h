@@ -22,7 +22,7 @@ class Application {
 
   /// Waits until `descriptor` has something to read or its other end is closed, at most `milliseconds`
   /// (negative: without limit; 0: serves what is pending). Meanwhile windows repaint and answer the desktop,
-  /// while input waits, events of the program are deferred, and a window that is closed stays.
+  /// while input and events of the program wait until it is over.
   static void waitPainting(int descriptor, int milliseconds);
 
   /// True inside `waitPainting` and once `end` has begun: no handler of the program may run.
@@ -31,6 +31,9 @@ class Application {
   /// Runs `action` at once or, while deferring, in the event loop after the wait; of several with the same
   /// `event` the first alone.
   static void runOrDefer(const void* event, const std::function<void()>& action);
+
+  /// Runs what ends the program: in a wait too, and with no event deferred; no more once `end` has begun.
+  static void runInWait(const std::function<void()>& action);
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();

@@ -42,6 +42,7 @@ class FormSurface : public Surface {
 
   FormWindow& form_;
   bool oneSize_;
+  bool endsProgram_;
   QMargins assumedFrame_;
   QSize requestedSize_;
   QSize reportedSize_;
@@ -59,7 +60,10 @@ QMargins lastFrame;
 }  // namespace
 
 FormSurface::FormSurface(FormWindow& form, const FormData& formData)
-    : Surface(false, formData.scale), form_(form), oneSize_(formData.oneSize) {
+    : Surface(false, formData.scale),
+      form_(form),
+      oneSize_(formData.oneSize),
+      endsProgram_(formData.endsProgram) {
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
   if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
@@ -173,7 +177,10 @@ bool FormSurface::event(QEvent* event) {
 
 void FormSurface::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!Application::isDeferring()) form_.unload();
+  const auto unload = [this] { form_.unload(); };
+  // Which never returns, so that nothing nests in the wait.
+  if (endsProgram_) return Application::runInWait(unload);
+  form_.raise(this, [unload](bool /*deferred*/) { unload(); });
 }
 
 FormWindow::FormWindow(const FormData& data) : window_(std::make_unique<FormSurface>(*this, data)) {

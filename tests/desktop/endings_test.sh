@@ -1,5 +1,6 @@
 #!/bin/bash
-# Whatever ends the program in the middle of a render, it is gone at once and the tool finishes the file.
+# Whatever ends the program in the middle of a render, it is gone at once and the tool finishes the file. In a
+# preview or a probe, where all other input waits for the tool, closing the window does so, too.
 . "$(dirname "$0")/../../docs/desktop.sh"
 
 source_file="$scratch/noise.wav"
@@ -31,6 +32,18 @@ minimised_window_counts() {
   xprop -id "$main" WM_NAME | grep -qE '"Velm:  [0-9]{2}\.[0-9]{2}%"'
 }
 
+# starts TOOL: has the program run it.
+starts() {
+  [ "$1" = ffprobe ] || real_tool ffprobe
+  rm -f "$folder/$1.args"
+  # shellcheck disable=SC2016
+  tool "$1" <<<'until [ -e "$0.stop" ]; do sleep 0.1; done'
+  start_program
+  open_source "$source_file"
+  [ "$1" = ffprobe ] || click "Preview Audio"
+  wait_for test -e "$folder/$1.args"
+}
+
 start_desktop
 real_tool ffprobe
 tool ffmpeg <<<"exec $(command -v ffmpeg) -re \"\$@\""
@@ -54,4 +67,13 @@ for ending in close Exit TERM HUP server; do
   [ -e "$scratch/by hand.wav" ] ||
     ffmpeg -v error -i "$source_file" -af "volume=1,$(chain 1 {,,,,,,,,,,,,,,,,,}-0 5 {,,,,,,,,,,,,}-0)" "$scratch/by hand.wav"
   cmp "$scratch/by hand.wav" "$target" || fail "the file is not complete after $ending"
+done
+
+for running_tool in ffprobe ffplay; do
+  starts "$running_tool"
+  close_button
+  wait_for program_has_ended
+  nothing_runs && fail "the program has waited for $running_tool"
+  touch "$folder/$running_tool.stop"
+  wait_for nothing_runs
 done

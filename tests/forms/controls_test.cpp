@@ -123,10 +123,30 @@ TEST_F(PaintOnlyWait, KeepsTicksForLaterWhichDoNotNest) {
   EXPECT_TRUE(events.starts_with("()()")) << events;
 }
 
-TEST_F(PaintOnlyWait, LetsNoWindowClose) {
+TEST_F(PaintOnlyWait, KeepsTheClosingOfAWindowForLater) {
   Form3->show(&*Form1);
   waitWith([] { windowOf(Form3->Text1)->close(); });
   EXPECT_TRUE(Form3.isLoaded());
+  forms::Application::doEvents();
+  EXPECT_FALSE(Form3.isLoaded());
+}
+
+TEST_F(PaintOnlyWait, KeepsMouseAndKeysForLaterInTheirOrder) {
+  record(Form1->Check1.onClick, "C");
+  record(Form1->Option1(0).onClick, "P");
+  const auto clickInWindow = [this](const forms::Control& control) {
+    const QPoint place = control.widget()->mapTo(window, QPoint(5, 5));
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
+  };
+  waitWith([&] {
+    clickInWindow(Form1->Check1);
+    clickInWindow(Form1->Option1(0));
+    QTest::keyClick(window->windowHandle(), Qt::Key_Space);
+    clickInWindow(Form1->Check1);
+  });
+  EXPECT_EQ(events, "");
+  clickInWindow(Form1->Option1(0));
+  EXPECT_TRUE(support::waitFor([this] { return events == "CPPCP"; })) << events;
 }
 
 /// Qt posts a key again after the accessibility bus has seen it.

@@ -116,7 +116,8 @@ int Application::run() {
 }
 
 void Application::doEvents() {
-  QCoreApplication::processEvents();
+  do QCoreApplication::processEvents();
+  while (heldInput->isServing());
 }
 
 void Application::waitPainting(int descriptor, int milliseconds) {

@@ -9,8 +9,8 @@
 namespace forms {
 namespace {
 
-/// A mouse event as it was, at the places that it had. Taking the base over keeps the mark of what a person did,
-/// without which Qt gives no focus by a click.
+/// A mouse event as it was, at the places that it had. Taking the base over keeps the mark of what a person
+/// did, without which Qt gives no focus by a click.
 class MouseEventAgain : public QMouseEvent {
  public:
   MouseEventAgain(const QMouseEvent& event, QPointF place, QPointF scenePlace, QPointF globalPlace)

@@ -12,9 +12,9 @@ class QWindow;
 
 namespace forms {
 
-/// Stands between Qt and all windows. Qt could leave input unserved by itself; but then the closing of a window
-/// stays unserved too, which Qt takes for input, and a key does not, once a screen reader runs: the accessibility
-/// bus sees it first, and its answer posts the key like any other event.
+/// Stands between Qt and all windows. Qt could leave input unserved by itself; but then the closing of a
+/// window stays unserved too, which Qt takes for input, and a key does not, once a screen reader runs: the
+/// accessibility bus sees it first, and its answer posts the key like any other event.
 class HeldInput : public QObject {
  public:
   /// Lets all input through until `hold`.
@@ -23,14 +23,17 @@ class HeldInput : public QObject {
   /// Keeps input from here on, of a mouse that moves the last place alone.
   void hold() { holding_ = true; }
 
-  /// Serves what was kept, in its order, one event at each turn of the event loop: serving one can open a dialog
-  /// that needs those that follow. Input that comes meanwhile waits behind it.
+  /// Serves what was kept, in its order, one event at each turn of the event loop: serving one can open a
+  /// dialog that needs those that follow. Input that comes meanwhile waits behind it.
   void release();
+  /// True while a next turn of the event loop has something to serve.
+  bool isServing() const { return !holding_ && !held_.empty(); }
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Qt moves the point of a mouse event, copies included, along with the mouse: the places are kept beside it.
+  /// Qt moves the point of a mouse event, copies included, along with the mouse: the places are kept beside
+  /// it.
   struct Held {
     QPointer<QWindow> window;
     std::unique_ptr<QEvent> event;

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <cmath>
+#include <utility>
 
 #include "forms/spoken_changes.h"
 #include "forms/style.h"
@@ -19,13 +20,23 @@ constexpr double kLeftShares[] = {0, 1, 0.5};
 
 /// The lines of its container lie on top of it: it paints those that cross it itself.
 class LabelWidget : public QLabel {
+ public:
+  /// Makes the text as narrow as it has to be before it is painted next. Measuring takes as long as all else
+  /// of a change, and most captions of a sweep are never seen.
+  void fitLater() { toFit_ = true; }
+
  protected:
   void paintEvent(QPaintEvent* event) override {
+    // The widths are made for Arial: where neither that nor a font like it is installed, most are wider.
+    if (std::exchange(toFit_, false)) setFont(narrowed(font(), text(), width()));
     QLabel::paintEvent(event);
     QPainter painter(this);
     painter.translate(-pos());
     static_cast<const Surface*>(parentWidget())->paintLines(painter, event->rect().translated(pos()));
   }
+
+ private:
+  bool toFit_ = false;
 };
 
 QLabel* makeLabel() {
@@ -80,12 +91,9 @@ void Label::setTransparent(bool transparent) {
 }
 
 void Label::refit() {
-  auto* label = static_cast<QLabel*>(widget());
+  auto* label = static_cast<LabelWidget*>(widget());
   const QString text = toQt(caption_);
-  // The widths are made for Arial: where neither that nor a font like it is installed, most are wider.
-  if (!autoSize_ && !elided_)
-    if (const QFont font = narrowed(label->font(), text, label->width()); font != label->font())
-      label->setFont(font);
+  if (!autoSize_ && !elided_) label->fitLater();
   label->setText(elided_ ? label->fontMetrics().elidedText(text, Qt::ElideMiddle, label->width()) : text);
   if (autoSize_) fitToText();
 }

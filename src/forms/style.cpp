@@ -136,7 +136,7 @@ QFont fontOf(double points, bool bold) {
 }
 
 QFont narrowed(QFont font, const QString& text, int width) {
-  font.setStretch(QFont::AnyStretch);
+  if (font.stretch() != QFont::AnyStretch) font.setStretch(QFont::AnyStretch);
   // Hinted letters do not shrink in proportion: a narrower font can still be too wide.
   int stretch = QFont::Unstretched;
   while (QFontMetrics(font).horizontalAdvance(text) > width && stretch > QFont::UltraCondensed)

@@ -35,7 +35,6 @@ minimised_window_counts() {
 # starts TOOL: has the program run it.
 starts() {
   [ "$1" = ffprobe ] || real_tool ffprobe
-  rm -f "$folder/$1.args"
   # shellcheck disable=SC2016
   tool "$1" <<<'until [ -e "$0.stop" ]; do sleep 0.1; done'
   start_program
@@ -45,9 +44,19 @@ starts() {
 }
 
 start_desktop
+ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
+
+for running_tool in ffprobe ffplay; do
+  starts "$running_tool"
+  close_button
+  wait_for program_has_ended
+  nothing_runs && fail "the program has waited for $running_tool"
+  touch "$folder/$running_tool.stop"
+  wait_for nothing_runs
+done
+
 real_tool ffprobe
 tool ffmpeg <<<"exec $(command -v ffmpeg) -re \"\$@\""
-ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
 for ending in close Exit TERM HUP server; do
   start_program LC_ALL=de_DE.UTF-8
   open_source "$source_file"
@@ -67,13 +76,4 @@ for ending in close Exit TERM HUP server; do
   [ -e "$scratch/by hand.wav" ] ||
     ffmpeg -v error -i "$source_file" -af "volume=1,$(chain 1 {,,,,,,,,,,,,,,,,,}-0 5 {,,,,,,,,,,,,}-0)" "$scratch/by hand.wav"
   cmp "$scratch/by hand.wav" "$target" || fail "the file is not complete after $ending"
-done
-
-for running_tool in ffprobe ffplay; do
-  starts "$running_tool"
-  close_button
-  wait_for program_has_ended
-  nothing_runs && fail "the program has waited for $running_tool"
-  touch "$folder/$running_tool.stop"
-  wait_for nothing_runs
 done

@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include "support/temp_folder.h"
 #include "tools/dos_outputs.h"
@@ -51,5 +53,25 @@ TEST_F(Runner, LetsTheHandlerChangeItsCopyAndCutTheConnectionAtOnce) {
             std::string("a\0b\377two\n", 8));
   EXPECT_EQ(pieces, std::vector<std::string>{std::string("a\0b\377", 4)});
 }
+
+#ifndef TESSAVANE_SANITIZED  // The sanitizer itself needs more than any such limit.
+TEST_F(Runner, ReadsToTheEndWhatThereIsNoMemoryFor) {
+  rlimit before{};
+  getrlimit(RLIMIT_AS, &before);
+  then = [this, before](std::string&) {
+    objDOS.clear();  // The record would need as much again.
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlimit full{pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + 10'000'000, before.rlim_max};
+    setrlimit(RLIMIT_AS, &full);
+  };
+  const auto runner = start("head -c 30000000 /dev/zero; echo > \"$0.done\"");
+  const std::string& output = runner->ExecuteCommand();
+  setrlimit(RLIMIT_AS, &before);
+  EXPECT_GT(output.size(), 1'000'000U);
+  EXPECT_LT(output.size(), 30'000'000U);
+  EXPECT_TRUE(std::filesystem::exists(folder.file("tool.done")));
+}
+#endif
 
 }  // namespace

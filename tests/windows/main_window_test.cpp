@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPixmap>
 
 #include "support/session.h"
 
@@ -62,10 +63,11 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
   Form3->show(&*Form1);
   click(Form3->Command1(3));
   for (QWidget* each : QApplication::topLevelWidgets()) {
+    const QPixmap picture = each->grab();
     for (const auto* label : each->findChildren<QLabel*>()) fits(label, 0);
     for (const auto* button : each->findChildren<QAbstractButton*>()) fits(button, 8);
     if (const QString factor = qgetenv("QT_SCALE_FACTOR"); !factor.isEmpty())
-      each->grab().save(each->objectName() + "_at_" + factor + ".png");
+      picture.save(each->objectName() + "_at_" + factor + ".png");
   }
 }
 
@@ -77,12 +79,14 @@ TEST_F(MainWindowTest, SizesItsFontsInPixels) {
 TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
   forms::Label& caption = Form1->Label8(3);
   const auto needed = [&] {
+    caption.widget()->grab();
     return caption.widget()->fontMetrics().horizontalAdvance(QString::fromStdString(caption.caption()));
   };
   const std::string before = caption.caption();
   caption.setCaption(before + " and a bit more");
   EXPECT_LE(needed(), caption.widget()->width());
   caption.setCaption(before);
+  EXPECT_LE(needed(), caption.widget()->width());
   EXPECT_EQ(caption.widget()->font().stretch(), Form1->Label8(1).widget()->font().stretch());
 }
 

@@ -224,10 +224,11 @@ void FormWindow::setOuterSize(double width, double height) {
 
 void FormWindow::raise(const void* event, const std::function<void(bool deferred)>& handler) {
   if (!loaded_) return;
-  const bool deferred = Application::isDeferring();
-  Application::runOrDefer(event, [form = weak_from_this(), handler, deferred] {
-    const auto alive = form.lock();
-    if (alive && alive->loaded_) handler(deferred);
+  const auto alive = shared_from_this();
+  if (!Application::isDeferring()) return handler(false);
+  Application::runOrDefer(event, [form = weak_from_this(), handler] {
+    const auto later = form.lock();
+    if (later && later->loaded_) handler(true);
   });
 }
 

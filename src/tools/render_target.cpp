@@ -32,6 +32,7 @@ FileUse useOf(const std::string& path) {
 std::string makeTarget(const std::string& path) {
   const FileUse use = useOf(path);
   if (use == FileUse::Input) return {};
+  // Where the marker finds no room, as on a full disk, FFmpeg is started all the same: it tells by itself.
   if (use == FileUse::None) platform::writeFile(path, kMarker);
   return GetShortPath(path);
 }

@@ -41,6 +41,7 @@ void EqStringWindow::ListIndividualStrings() {
   Text1.setSelStart(0);
   Command1(0).setEnabled(false);
   Text1.setEnabled(false);
+  // The first pass lists all; those behind it keep the title up for longer the longer the text is.
   const long passes = characterCount(Text1.text()) + 1;
   for (long pass = 0; pass < passes; ++pass) {
     forms::Application::doEvents();

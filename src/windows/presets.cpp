@@ -78,6 +78,7 @@ void LoadPreset(int PresetIndex) {
   const std::string line =
       platform::profileString(sectionName(PresetIndex), kKey, "1", kLineBuffer, AppState.PresetFilePath);
   const Preset preset(line);
+  // A pass a character: no line has more elements. What is applied again changes nothing.
   for (int pass = 0; pass < static_cast<int>(line.size()); ++pass) applyPass(preset, pass);
   Form1->Label7(7).setCaption("Selected Frequency Value:  0db");
 }

@@ -15,7 +15,7 @@ namespace forms {
 
 void Item::raise(const Event& event) const {
   form_.raise(&event, [this, &event](bool deferred) {
-    if (event && (enabled() || !deferred)) event(index_ == kSingle ? 0 : index_);
+    if (event && (!deferred || enabled())) event(index_ == kSingle ? 0 : index_);
   });
 }
 

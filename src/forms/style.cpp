@@ -77,6 +77,9 @@ class Style : public QProxyStyle {
         element == PE_Frame || (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth == 0);
     if (isMark || (isBox && option->state & State_HasFocus))
       drawOutline(*painter, option->rect, QColor(kFocus));
+    // Fusion only turns the edge from grey to blue, and of two buttons in a row one hides the other's edge.
+    if (element == PE_PanelButtonCommand && option->state & State_HasFocus)
+      drawOutline(*painter, option->rect.adjusted(1, 1, -1, -1), QColor(kFocus));
   }
 
   QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override {

@@ -1,5 +1,7 @@
 #include <QImage>
 #include <QScreen>
+#include <QSlider>
+#include <cmath>
 
 #include "support/session.h"
 
@@ -60,6 +62,46 @@ TEST_F(Picture, FillsNoPartOfAGroove) {
     const QImage behind = shown(window).copy(middle);
     slider->setValue(slider->max());
     EXPECT_EQ(behind, shown(window).copy(middle)) << slider->widget()->objectName().toStdString();
+  }
+}
+
+/// Of a colour, from 0 to 1, as the Web Content Accessibility Guidelines define it.
+double luminance(QRgb color) {
+  const auto linear = [](int part) {
+    const double share = part / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+bool standsOut(QRgb color, QRgb before) {
+  const auto [darker, lighter] = std::minmax(luminance(color), luminance(before));
+  return (lighter + 0.05) / (darker + 0.05) >= 3;
+}
+
+TEST_F(Picture, MarksTheFocusInFullHeightByAContrastOf3To1) {
+  openSource(support::writeText(folder, "a.wav", ""));
+  Form3->show(&*Form1);
+  for (QWidget* window : {windowOf(Form1->Label6), windowOf(Form3->Text1)}) {
+    window->activateWindow();
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+      if (!(widget->focusPolicy() & Qt::StrongFocus) || !widget->isVisible()) continue;
+      const QRect extent(widget->mapTo(window, QPoint()), widget->size());
+      const QRgb ground = widget->parentWidget()->palette().color(QPalette::Window).rgb();
+      widget->clearFocus();
+      const QImage before = shown(*window).copy(extent);
+      widget->setFocus(Qt::TabFocusReason);
+      const QImage after = shown(*window).copy(extent);
+      QRect mark;
+      for (int y = 0; y < after.height(); ++y)
+        for (int x = 0; x < after.width(); ++x)
+          if (after.pixel(x, y) != before.pixel(x, y) &&
+              (standsOut(after.pixel(x, y), before.pixel(x, y)) || standsOut(after.pixel(x, y), ground)))
+            mark |= QRect(x, y, 1, 1);
+      const int thumb = 13;
+      const int expected = qobject_cast<QSlider*>(widget) != nullptr ? thumb : widget->height() - 2;
+      EXPECT_GE(mark.height(), expected) << widget->objectName().toStdString() << " of " << widget->height();
+    }
   }
 }
 

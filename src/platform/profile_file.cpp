@@ -33,9 +33,8 @@ std::string_view trimmed(std::string_view text) {
 bool sameName(std::string_view one, std::string_view other) {
   // The user's own locale may have other pairs of letters: a Turkish one lowers I to a dotless letter.
   static const locale_t kAscii = newlocale(LC_CTYPE_MASK, "C", nullptr);
-  one = trimmed(one);
-  other = trimmed(other);
-  return one.size() == other.size() && strncasecmp_l(one.data(), other.data(), one.size(), kAscii) == 0;
+  const auto lower = [](char c) { return tolower_l(static_cast<unsigned char>(c), kAscii); };
+  return std::ranges::equal(trimmed(one), trimmed(other), {}, lower, lower);
 }
 
 /// Where the first line of `text` begins: behind the mark that some editors put in front of UTF-8.

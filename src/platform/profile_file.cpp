@@ -1,8 +1,8 @@
 #include "platform/profile_file.h"
 
+#include <ctype.h>
 #include <fcntl.h>
 #include <locale.h>
-#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -28,7 +28,7 @@ bool waiting = false;
 bool ended = false;
 
 struct Deferred {
-  const void* event;
+  const void* event = nullptr;
   std::function<void()> action;
 };
 

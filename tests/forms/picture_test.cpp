@@ -75,7 +75,7 @@ double luminance(QRgb color) {
 }
 
 bool standsOut(QRgb color, QRgb before) {
-  const auto [darker, lighter] = std::minmax(luminance(color), luminance(before));
+  const auto [darker, lighter] = std::minmax({luminance(color), luminance(before)});
   return (lighter + 0.05) / (darker + 0.05) >= 3;
 }
 

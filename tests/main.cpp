@@ -4,6 +4,7 @@
 
 #include "forms/application.h"
 #include "platform/child_process.h"
+#include "support/leaks.h"
 
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);

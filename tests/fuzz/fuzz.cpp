@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/profile_file.h"
 #include "support/in_step.h"
+#include "support/leaks.h"
 #include "support/temp_folder.h"
 #include "tools/tool_output.h"
 #include "windows/form2.h"

@@ -98,7 +98,7 @@ TEST_F(Picture, MarksTheFocusInFullHeightByAContrastOf3To1) {
           if (after.pixel(x, y) != before.pixel(x, y) &&
               (standsOut(after.pixel(x, y), before.pixel(x, y)) || standsOut(after.pixel(x, y), ground)))
             mark |= QRect(x, y, 1, 1);
-      const int thumb = 13;
+      const int thumb = 10;
       const int expected = qobject_cast<QSlider*>(widget) != nullptr ? thumb : widget->height() - 2;
       EXPECT_GE(mark.height(), expected) << widget->objectName().toStdString() << " of " << widget->height();
     }

@@ -14,6 +14,6 @@ void CopyToClipboard(forms::CommandButton& button, const std::string& text) {
   button.setCaption(kCopied);
 }
 
-void EndCopyNotice(forms::CommandButton& button, const std::string& caption) {
-  if (button.caption() == kCopied) button.setCaption(caption);
+void EndCopyNotice(forms::CommandButton& button, std::string_view caption) {
+  if (button.caption() == kCopied) button.setCaption(std::string(caption));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "forms/controls.h"
 
@@ -9,4 +10,4 @@
 void CopyToClipboard(forms::CommandButton& button, const std::string& text);
 
 /// Gives `button` its caption back where it says that something was copied; any other caption stays.
-void EndCopyNotice(forms::CommandButton& button, const std::string& caption);
+void EndCopyNotice(forms::CommandButton& button, std::string_view caption);

@@ -6,17 +6,6 @@
 #include "windows/compose_eq_string.h"
 #include "windows/form1.h"
 
-namespace {
-
-/// `min`, below 0, is the position of the strongest boost. A cut is always green.
-forms::Color barColor(int value, int min) {
-  if (value > min / 2.0) return kPaleGreen;
-  if (value > min / 1.1) return kPaleYellow;
-  return kRed;
-}
-
-}  // namespace
-
 void MainWindow::Slider1_Scroll(int Index) {
   ShowSelectedBand(Index);
   ComposeEqString(Index);

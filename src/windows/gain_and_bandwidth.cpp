@@ -11,12 +11,6 @@ namespace {
 /// Position of the gain slider that leaves the source as it is.
 constexpr int kUnity = 5;
 
-forms::Color gainColor(int value) {
-  if (value <= 0) return kRed;
-  if (value <= kUnity) return kPaleGreen;
-  return value < kUnity * 1.5 ? kPaleYellow : kRed;
-}
-
 }  // namespace
 
 void MainWindow::Slider2_Scroll() {
@@ -42,7 +36,7 @@ void MainWindow::ShowGain(int Value) {
 void MainWindow::ShowGainBar() {
   const int value = Slider2.value();
   const double middle = Slider2.left() + Slider2.width() / 2;
-  Line10.setBorderColor(gainColor(value));
+  Line10.setBorderColor(gainColor(value, kUnity));
   Line10.setX2(middle);
   Line10.setX1(middle + value / 2.0 * 25);
   EndClipboardNotice();

@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QMouseEvent>
-#include <QWheelEvent>
 #include <QWindow>
 #include <utility>
 

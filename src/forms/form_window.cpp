@@ -42,11 +42,13 @@ class FormSurface : public Surface {
 
   FormWindow& form_;
   bool oneSize_;
+  bool owned_;
   bool endsProgram_;
   QMargins assumedFrame_;
   QSize requestedSize_;
   QSize reportedSize_;
   QPoint centre_;
+  QPoint place_;
   bool centred_ = false;
   bool minimised_ = false;
 };
@@ -63,6 +65,7 @@ FormSurface::FormSurface(FormWindow& form, const FormData& formData)
     : Surface(false, formData.scale),
       form_(form),
       oneSize_(formData.oneSize),
+      owned_(formData.owned),
       endsProgram_(formData.endsProgram) {
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
@@ -116,8 +119,9 @@ void FormSurface::centre() {
   place.moveCenter(centre_);
   const QRect screenArea = screen()->availableGeometry();
   const QPoint last = screenArea.bottomRight() - place.bottomRight() + place.topLeft();
-  move(std::max(std::min(place.left(), last.x()), screenArea.left()),
-       std::max(std::min(place.top(), last.y()), screenArea.top()));
+  place_ = {std::max(std::min(place.left(), last.x()), screenArea.left()),
+            std::max(std::min(place.top(), last.y()), screenArea.top())};
+  move(place_);
 }
 
 void FormSurface::bringForward() {
@@ -143,10 +147,11 @@ void FormSurface::reportState() {
   lastFrame = frame();
   // The window manager's frame is not the one that the size was asked for with: the outer size stays and the
   // inner one gives way.
-  if (lastFrame != assumedFrame_ && size() == requestedSize_) {
-    applyOuterSize();
-    if (!std::exchange(centred_, true)) centre();
-  }
+  const bool otherFrame = lastFrame != assumedFrame_ && size() == requestedSize_;
+  if (otherFrame) applyOuterSize();
+  // Some managers (matchbox) take the first place, which is the frame's, for that of the window inside.
+  const bool misplaced = otherFrame || (owned_ && pos() != place_);
+  if (misplaced && !std::exchange(centred_, true)) centre();
   if (size() == reportedSize_ && !wasMinimised) return;
   reportedSize_ = size();
   form_.outerWidth_ = outerSize().width() * kTwipsPerPixel;

@@ -17,6 +17,15 @@ QString literal(const std::string& caption) {
   return toQt(caption).replace("&", "&&");
 }
 
+/// Puts a caption in letters that leave `taken` pixels of the button's width to the rest of it.
+void putCaption(QAbstractButton& button, const std::string& caption, int taken) {
+  button.setText(literal(caption));
+  button.setFont(narrowed(button.font(), toQt(caption), button.width() - taken));
+}
+
+/// What Fusion puts before a caption: a circle or a box, and the space behind it.
+constexpr int kIndicator = 20;
+
 /// Tab stops once in a group: at its choice, or at each button where it has none. Qt leaves the stop to one
 /// button of a group by itself, but only once the focus has been there.
 void makeTabStops(const QButtonGroup& group) {
@@ -68,15 +77,14 @@ void CommandButton::setCaption(const std::string& caption) {
   if (caption_ == caption) return;
   caption_ = caption;
   auto* button = static_cast<QPushButton*>(widget());
-  button->setText(literal(caption));
   constexpr int kEdges = 8;
-  button->setFont(narrowed(button->font(), toQt(caption), button->width() - kEdges));
+  putCaption(*button, caption, kEdges);
   button->setAccessibleName(toQt(caption).trimmed());
 }
 
 OptionButton::OptionButton(FormWindow& form, const ControlData& data) : Control(form, data, new RadioButton) {
   auto* button = static_cast<QRadioButton*>(widget());
-  button->setText(literal(data.text));
+  putCaption(*button, data.text, kIndicator);
   button->setAutoFillBackground(true);
   if (*data.spokenName == '\0') button->setAccessibleName(data.text);
   button->setChecked(data.look.selected);
@@ -116,7 +124,7 @@ void OptionButton::setValue(bool value) {
 
 CheckBox::CheckBox(FormWindow& form, const ControlData& data) : Control(form, data, new QCheckBox) {
   auto* box = static_cast<QCheckBox*>(widget());
-  box->setText(literal(data.text));
+  putCaption(*box, data.text, kIndicator);
   if (*data.spokenName == '\0') box->setAccessibleName(data.text);
   box->setChecked(data.look.selected);
   QObject::connect(box, &QCheckBox::clicked, box, [this] { raise(onClick); });

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -38,6 +39,7 @@ class FormSurface : public Surface {
  private:
   QMargins frame() const;
   void centre();
+  void leaveFullScreen();
   void reportState();
 
   FormWindow& form_;
@@ -134,11 +136,17 @@ void FormSurface::bringForward() {
   activateWindow();
 }
 
+/// The window manager, which alone can have made it so, puts it back to where it was. One that is asked while
+/// it is still busy with the full screen (awesome, i3) knows no way back.
+void FormSurface::leaveFullScreen() {
+  constexpr int kMilliseconds = 100;
+  QTimer::singleShot(kMilliseconds, this, [this] { setWindowState(windowState() & ~Qt::WindowFullScreen); });
+}
+
 /// Tells the form of a new size or state, once it is shown.
 void FormSurface::reportState() {
   if (!isVisible()) return;
-  // The window manager, which alone can have made it so, puts it back to where it was.
-  if (oneSize_ && isFullScreen()) return setWindowState(windowState() & ~Qt::WindowFullScreen);
+  if (oneSize_ && isFullScreen()) return leaveFullScreen();
   const bool wasMinimised = std::exchange(minimised_, isMinimized());
   if (minimised_) {
     if (!wasMinimised) form_.raise(form_.onResize);

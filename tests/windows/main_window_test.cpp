@@ -65,7 +65,7 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
   for (QWidget* each : QApplication::topLevelWidgets()) {
     const QPixmap picture = each->grab();
     for (const auto* label : each->findChildren<QLabel*>()) fits(label, 0);
-    for (const auto* button : each->findChildren<QAbstractButton*>()) fits(button, 8);
+    for (const auto* button : each->findChildren<QAbstractButton*>()) fits(button, button->isCheckable() ? 20 : 8);
     if (const QString factor = qgetenv("QT_SCALE_FACTOR"); !factor.isEmpty())
       picture.save(each->objectName() + "_at_" + factor + ".png");
   }
@@ -88,6 +88,8 @@ TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
   caption.setCaption(before);
   EXPECT_LE(needed(), caption.widget()->width());
   EXPECT_EQ(caption.widget()->font().stretch(), Form1->Label8(1).widget()->font().stretch());
+  const forms::CheckBox box(*Form1, {forms::Kind::CheckBox, "", 0, "", 0, 0, 1200, 210, 0, "Indicator bars"});
+  EXPECT_LE(box.widget()->fontMetrics().horizontalAdvance("Indicator bars"), 60);
 }
 
 /// The name of a box stands for that option button in it that takes the focus.

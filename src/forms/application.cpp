@@ -7,6 +7,7 @@
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QImageReader>
 #include <QSettings>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -53,8 +54,7 @@ class Wait {
   Wait& operator=(const Wait&) = delete;
 };
 
-/// Gives all windows their icon behind the first frame: for the first picture file Qt looks through all its
-/// picture plug-ins.
+/// Gives all windows their icon behind the first frame, which does not show it yet.
 class LateIcon : public QObject {
  public:
   explicit LateIcon(QObject* parent) : QObject(parent) { parent->installEventFilter(this); }
@@ -73,8 +73,12 @@ class LateIcon : public QObject {
 
 void LateIcon::readIcon() {
   QIcon icon;
-  for (const char* size : {"16x16", "32x32", "48x48"})
-    icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size));
+  for (const char* size : {"16x16", "32x32", "48x48"}) {
+    QImageReader picture(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size), "png");
+    // Qt would load all its picture plug-ins and ask each, although the kind is named.
+    picture.setAutoDetectImageFormat(false);
+    icon.addPixmap(QPixmap::fromImageReader(&picture));
+  }
   QApplication::setWindowIcon(icon);
 }
 

@@ -52,6 +52,7 @@ class FormSurface : public Surface {
   QPoint centre_;
   QPoint place_;
   bool centred_ = false;
+  bool settled_ = false;
   bool minimised_ = false;
 };
 
@@ -158,7 +159,7 @@ void FormSurface::reportState() {
   const bool otherFrame = lastFrame != assumedFrame_ && size() == requestedSize_;
   if (otherFrame) applyOuterSize();
   // Some managers (matchbox) take the first place, which is the frame's, for that of the window inside.
-  const bool misplaced = otherFrame || (owned_ && pos() != place_);
+  const bool misplaced = otherFrame || (owned_ && !settled_ && pos() != place_);
   if (misplaced && !std::exchange(centred_, true)) centre();
   if (size() == reportedSize_ && !wasMinimised) return;
   reportedSize_ = size();
@@ -185,6 +186,8 @@ bool FormSurface::event(QEvent* event) {
     default:
       break;
   }
+  // From here on it is the user who moves the window.
+  if (event->type() == QEvent::WindowActivate) settled_ = true;
   return handled;
 }
 

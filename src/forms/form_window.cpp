@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -51,8 +52,8 @@ class FormSurface : public Surface {
   QSize reportedSize_;
   QPoint centre_;
   QPoint place_;
+  QElapsedTimer placed_;
   bool centred_ = false;
-  bool settled_ = false;
   bool minimised_ = false;
 };
 
@@ -110,8 +111,10 @@ void FormSurface::prepareSize() {
 
 void FormSurface::standBeside(const FormSurface* owner) {
   const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
-  centre_ = (owner != nullptr ? owner->frameGeometry() : screenArea).center();
+  // Qt's own frame geometry can be that of a frame that the owner had before.
+  centre_ = (owner != nullptr ? owner->geometry() + owner->frame() : screenArea).center();
   centre();
+  placed_.start();
   if (owner == nullptr) return;
   winId();
   windowHandle()->setTransientParent(owner->windowHandle());
@@ -158,8 +161,10 @@ void FormSurface::reportState() {
   // inner one gives way.
   const bool otherFrame = lastFrame != assumedFrame_ && size() == requestedSize_;
   if (otherFrame) applyOuterSize();
-  // Some managers (matchbox) take the first place, which is the frame's, for that of the window inside.
-  const bool misplaced = otherFrame || (owned_ && !settled_ && pos() != place_);
+  // Some managers have a place of their own for it (awesome), or take that of the frame for that of the
+  // window inside (matchbox). Later on it is the user who moves it.
+  constexpr int kMilliseconds = 500;
+  const bool misplaced = otherFrame || (owned_ && pos() != place_ && !placed_.hasExpired(kMilliseconds));
   if (misplaced && !std::exchange(centred_, true)) centre();
   if (size() == reportedSize_ && !wasMinimised) return;
   reportedSize_ = size();
@@ -186,8 +191,6 @@ bool FormSurface::event(QEvent* event) {
     default:
       break;
   }
-  // From here on it is the user who moves the window.
-  if (event->type() == QEvent::WindowActivate) settled_ = true;
   return handled;
 }
 

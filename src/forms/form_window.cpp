@@ -39,7 +39,9 @@ class FormSurface : public Surface {
 
  private:
   QMargins frame() const;
+  QMargins ownFrame() const;
   void centre();
+  bool standsElsewhere() const;
   void leaveFullScreen();
   void reportState();
 
@@ -84,10 +86,15 @@ FormSurface::FormSurface(FormWindow& form, const FormData& formData)
   resize(formData.width / kTwipsPerPixel, formData.height / kTwipsPerPixel);
 }
 
+/// The frame of this window, or the likely one before the window manager has framed it.
 QMargins FormSurface::frame() const {
-  // Before the window manager has framed it, a window has no margins.
-  const QMargins known = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
-  return known.isNull() ? lastFrame : known;
+  const QMargins own = ownFrame();
+  return own.isNull() ? lastFrame : own;
+}
+
+/// Asked of the window: Qt's widget can still have the frame of before.
+QMargins FormSurface::ownFrame() const {
+  return windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
 }
 
 void FormSurface::applyOuterSize() {
@@ -111,8 +118,7 @@ void FormSurface::prepareSize() {
 
 void FormSurface::standBeside(const FormSurface* owner) {
   const QRect screenArea = (owner != nullptr ? owner : this)->screen()->availableGeometry();
-  // Qt's own frame geometry can be that of a frame that the owner had before.
-  centre_ = (owner != nullptr ? owner->geometry() + owner->frame() : screenArea).center();
+  centre_ = (owner != nullptr ? owner->geometry() + owner->ownFrame() : screenArea).center();
   centre();
   placed_.start();
   if (owner == nullptr) return;
@@ -127,7 +133,20 @@ void FormSurface::centre() {
   const QPoint last = screenArea.bottomRight() - place.bottomRight() + place.topLeft();
   place_ = {std::max(std::min(place.left(), last.x()), screenArea.left()),
             std::max(std::min(place.top(), last.y()), screenArea.top())};
-  move(place_);
+  if (!isVisible()) return move(place_);
+  // Where the window inside is to be, which all managers understand alike.
+  const QMargins own = ownFrame();
+  windowHandle()->setPosition(place_ + QPoint(own.left(), own.top()));
+}
+
+/// Whether the window manager has put a new window where nobody asked for it. Some have a place of their own
+/// at first (awesome), or take that of the frame for that of the window inside (matchbox). Later on, or where
+/// the window fills the screen, it is the user who wants it so.
+bool FormSurface::standsElsewhere() const {
+  constexpr int kMilliseconds = 500;
+  const QMargins own = ownFrame();
+  return owned_ && own == assumedFrame_ && geometry().topLeft() - QPoint(own.left(), own.top()) != place_ &&
+         !isMaximized() && !isFullScreen() && !placed_.hasExpired(kMilliseconds);
 }
 
 void FormSurface::bringForward() {
@@ -161,11 +180,7 @@ void FormSurface::reportState() {
   // inner one gives way.
   const bool otherFrame = lastFrame != assumedFrame_ && size() == requestedSize_;
   if (otherFrame) applyOuterSize();
-  // Some managers have a place of their own for it (awesome), or take that of the frame for that of the
-  // window inside (matchbox). Later on it is the user who moves it.
-  constexpr int kMilliseconds = 500;
-  const bool misplaced = otherFrame || (owned_ && pos() != place_ && !placed_.hasExpired(kMilliseconds));
-  if (misplaced && !std::exchange(centred_, true)) centre();
+  if ((otherFrame || standsElsewhere()) && !std::exchange(centred_, true)) centre();
   if (size() == reportedSize_ && !wasMinimised) return;
   reportedSize_ = size();
   form_.outerWidth_ = outerSize().width() * kTwipsPerPixel;

@@ -89,8 +89,9 @@ TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
   caption.setCaption(before);
   EXPECT_LE(needed(), caption.widget()->width());
   EXPECT_EQ(caption.widget()->font().stretch(), Form1->Label8(1).widget()->font().stretch());
-  const forms::CheckBox box(*Form1, {forms::Kind::CheckBox, "", 0, "", 0, 0, 1200, 210, 0, "Indicator bars"});
+  forms::CheckBox box(*Form1, {forms::Kind::CheckBox, "", 0, "", 0, 0, 1200, 210, 0, "Indicator bars"});
   EXPECT_LE(box.widget()->fontMetrics().horizontalAdvance("Indicator bars"), 60);
+  delete box.widget();  // The form outlives the box.
 }
 
 /// The name of a box stands for that option button in it that takes the focus.

@@ -2,10 +2,11 @@
 
 #include "forms/application.h"
 #include "platform/child_process.h"
+#include "platform/elsewhere.h"
 #include "windows/startup.h"
 
 int main() {
-  const forms::Application application;
+  const forms::Application application(platform::runElsewhere);
   platform::setWaitHook(&forms::Application::waitPainting);
   Main();
   return forms::Application::run();

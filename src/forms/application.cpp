@@ -84,7 +84,7 @@ void LateIcon::readIcon() {
 
 }  // namespace
 
-Application::Application() {
+Application::Application(const StartThread& startThread) {
   // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a
   // program that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is
   // not inherited by child processes, as a changed environment would be.
@@ -98,7 +98,7 @@ Application::Application() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
   // to do with the first text; and Qt makes its own list of the fonts while the first controls are made.
-  std::thread fontconfig([] { FcInit(); });
+  std::thread fontconfig = startThread([] { FcInit(); });
   application = new QApplication(count, arguments);
   fontconfig.join();
   fonts_ = std::thread([] { QFontDatabase::families(); });

@@ -9,7 +9,10 @@ namespace forms {
 /// The one connection to the desktop. Made once, before the first window; reads no command line.
 class Application {
  public:
-  Application();
+  using StartThread = std::function<std::thread(std::function<void()> work)>;
+
+  /// `startThread` serves what goes on while the connection is made.
+  explicit Application(const StartThread& startThread = [](auto work) { return std::thread(work); });
   ~Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;

@@ -9,6 +9,7 @@ namespace forms {
 /// The one connection to the desktop. Made once, before the first window; reads no command line.
 class Application {
  public:
+  /// Makes the thread that does `work`.
   using StartThread = std::function<std::thread(std::function<void()> work)>;
 
   /// `startThread` serves what goes on while the connection is made.

@@ -7,8 +7,8 @@
 namespace platform {
 
 /// Runs `work` in a thread on a processor other than that of the calling thread, as far as there is one that
-/// the process may use. The kernel can let a new thread wait behind its maker although others are idle: it
-/// finds those only among processors with a common cache, and virtual machines have none.
+/// the process may use. Left to the kernel, a new thread can wait behind its maker for milliseconds although
+/// others are idle, most of all in virtual machines, some of which pack threads on few processors.
 std::thread runElsewhere(std::function<void()> work);
 
 }  // namespace platform

@@ -13,7 +13,7 @@ class Application {
   using StartThread = std::function<std::thread(std::function<void()> work)>;
 
   /// `startThread` serves what goes on while the connection is made.
-  explicit Application(const StartThread& startThread = [](auto work) { return std::thread(work); });
+  explicit Application(const StartThread& startThread = [](const auto& work) { return std::thread(work); });
   ~Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;

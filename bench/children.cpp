@@ -76,7 +76,7 @@ void setAllBands() {
   AppState.BandWidth = 1;
   for (int i = 0; i < kBands; ++i)
     AppState.BandGainText[static_cast<std::size_t>(i)] = bandGainText(i % 2 == 0 ? 3 : -3);
-  composeChain(AppState.EqString, AppState);
+  composeChain(AppState);
   AppState.SourcePathShort = "source.wav";
 }
 

@@ -62,12 +62,12 @@ void composition(benchmark::State& state) {
   AppStateRecord record;
   record.BandWidth = 1;
   for (int i = 0; i < kBands; ++i) record.BandGainText[static_cast<std::size_t>(i)] = bandGainText(0);
-  composeChain(record.EqString, record);
+  composeChain(record);
   const std::size_t before = allocations;
   int band = 0;
   for (auto _ : state) {
     record.BandGainText[static_cast<std::size_t>(band)] = bandGainText(position(band, 12));
-    composeChain(record.EqString, record);
+    composeChain(record);
     benchmark::DoNotOptimize(record.EqString.data());
     band = (band + 1) % kBands;
     record.BandWidth = 1 + (record.BandWidth + 1) % 254;

@@ -2,11 +2,10 @@
 
 #include "forms/application.h"
 #include "platform/child_process.h"
-#include "platform/elsewhere.h"
 #include "windows/startup.h"
 
 int main() {
-  const forms::Application application(platform::runElsewhere);
+  const forms::Application application;
   platform::setWaitHook(&forms::Application::waitPainting);
   Main();
   return forms::Application::run();

@@ -4,10 +4,11 @@
 #include <charconv>
 #include <string_view>
 
-void composeChain(std::string& chain, const AppStateRecord& state) {
+void composeChain(AppStateRecord& state) {
   std::array<char, 12> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), state.BandWidth).ptr;
   const std::string_view width(digits.data(), static_cast<std::size_t>(end - digits.data()));
+  std::string& chain = state.EqString;
   chain.clear();
   if (state.LowCutOn) chain += kLowCutFilter;
   for (int i = state.LowCutOn ? kFirstBandAboveLowCut : 0; i < kBands; ++i) {

@@ -8,9 +8,9 @@
 /// Text of a band's gain in dB for a slider position: the position with its sign turned round, "-0" for 0.
 std::string bandGainText(int position);
 
-/// Writes the chain of all bands into `chain`: 32 filters, or 30 with low cut on, joined by commas. Takes no
-/// memory that `chain` does not have already, once it has held a chain.
-void composeChain(std::string& chain, const AppStateRecord& state);
+/// Makes the `EqString` of `state` anew from its other values: 32 filters, or 30 with low cut on, joined by
+/// commas. Takes no memory that the text does not have already, once it has held a chain.
+void composeChain(AppStateRecord& state);
 
 /// `chain` with one filter a line, lines parted by carriage return and line feed. No filter has a comma
 /// inside.

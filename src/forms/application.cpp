@@ -18,18 +18,17 @@
 
 #include "forms/held_input.h"
 #include "forms/spoken.h"
+#include "forms/spoken_changes.h"
 #include "forms/style.h"
 
 namespace forms {
 namespace {
 
-QApplication* application = nullptr;
 HeldInput* heldInput = nullptr;
-bool waiting = false;
 bool ended = false;
 
 struct Deferred {
-  const void* event = nullptr;
+  const Event* event = nullptr;
   std::function<void()> action;
 };
 
@@ -37,41 +36,20 @@ std::vector<Deferred> deferred;
 
 class Wait {
  public:
-  Wait() {
-    waiting = true;
-    heldInput->hold();
-  }
+  Wait() { heldInput->hold(); }
   ~Wait() {
-    waiting = false;
     heldInput->release();
     for (const Deferred& due : std::exchange(deferred, {})) {
       // The next wait can begin before the event loop gets here.
-      const auto again = [due] { Application::runOrDefer(due.event, due.action); };
-      QMetaObject::invokeMethod(application, again, Qt::QueuedConnection);
+      const auto again = [due] { Application::runOrDefer(*due.event, due.action); };
+      QMetaObject::invokeMethod(qApp, again, Qt::QueuedConnection);
     }
   }
   Wait(const Wait&) = delete;
   Wait& operator=(const Wait&) = delete;
 };
 
-/// Gives all windows their icon behind the first frame, which does not show it yet.
-class LateIcon : public QObject {
- public:
-  explicit LateIcon(QObject* parent) : QObject(parent) { parent->installEventFilter(this); }
-
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() != QEvent::Paint) return false;
-    deleteLater();
-    QCoreApplication::instance()->removeEventFilter(this);
-    QMetaObject::invokeMethod(QCoreApplication::instance(), &readIcon, Qt::QueuedConnection);
-    return false;
-  }
-
- private:
-  static void readIcon();
-};
-
-void LateIcon::readIcon() {
+void readIcon() {
   QIcon icon;
   for (const char* size : {"16x16", "32x32", "48x48"}) {
     QImageReader picture(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size), "png");
@@ -84,7 +62,7 @@ void LateIcon::readIcon() {
 
 }  // namespace
 
-Application::Application(const StartThread& startThread) {
+Application::Application() {
   // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a
   // program that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is
   // not inherited by child processes, as a changed environment would be.
@@ -98,21 +76,21 @@ Application::Application(const StartThread& startThread) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
   // to do with the first text; and Qt makes its own list of the fonts while the first controls are made.
-  std::thread fontconfig = startThread([] { FcInit(); });
-  application = new QApplication(count, arguments);
+  std::thread fontconfig([] { FcInit(); });
+  new QApplication(count, arguments);
   fontconfig.join();
   fonts_ = std::thread([] { QFontDatabase::families(); });
-  heldInput = new HeldInput(application);
+  heldInput = new HeldInput(qApp);
   installSpokenWidgets();
+  listenToChanges();
   applyStyle();
-  new LateIcon(application);
+  readIcon();
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
 Application::~Application() {
   fonts_.join();
-  delete application;
-  application = nullptr;
+  delete qApp;
 }
 
 int Application::run() {
@@ -126,10 +104,6 @@ void Application::doEvents() {
 
 void Application::waitPainting(int descriptor, int milliseconds) {
   const Wait wait;
-  if (milliseconds == 0) {
-    QCoreApplication::processEvents();
-    return;
-  }
   bool over = false;
   QEventLoop loop;
   const auto stop = [&] {
@@ -141,7 +115,7 @@ void Application::waitPainting(int descriptor, int milliseconds) {
   QTimer limit;
   limit.setSingleShot(true);
   QObject::connect(&limit, &QTimer::timeout, stop);
-  if (milliseconds > 0) limit.start(milliseconds);
+  if (milliseconds >= 0) limit.start(milliseconds);
   loop.exec();
   // Where the display is lost, Qt ends the process; from 6.11 on it calls `QCoreApplication::exit` instead,
   // which makes every event loop return, this one and any begun later, but not the run that waits here.
@@ -149,27 +123,20 @@ void Application::waitPainting(int descriptor, int milliseconds) {
 }
 
 bool Application::isDeferring() {
-  return waiting || ended;
+  return ended || heldInput->isHolding();
 }
 
-void Application::runOrDefer(const void* event, const std::function<void()>& action) {
+void Application::runOrDefer(const Event& event, const std::function<void()>& action) {
   if (!isDeferring()) return action();
-  if (std::ranges::find(deferred, event, &Deferred::event) == deferred.end())
-    deferred.push_back({event, action});
-}
-
-void Application::runInWait(const std::function<void()>& action) {
-  if (ended) return;
-  const bool before = std::exchange(waiting, false);
-  action();
-  waiting = before;
+  if (std::ranges::find(deferred, &event, &Deferred::event) == deferred.end())
+    deferred.push_back({&event, action});
 }
 
 void Application::end() {
   ended = true;
   // On X11 and Wayland a copied text lives in the process that copied it; at its end QApplication hands it to
   // a clipboard manager.
-  if (application != nullptr && QApplication::clipboard()->ownsClipboard()) delete application;
+  if (qApp != nullptr && QApplication::clipboard()->ownsClipboard()) delete qApp;
   std::_Exit(0);
 }
 

@@ -4,16 +4,14 @@
 #include <functional>
 #include <thread>
 
+#include "forms/event.h"
+
 namespace forms {
 
 /// The one connection to the desktop. Made once, before the first window; reads no command line.
 class Application {
  public:
-  /// Makes the thread that does `work`.
-  using StartThread = std::function<std::thread(std::function<void()> work)>;
-
-  /// `startThread` serves what goes on while the connection is made.
-  explicit Application(const StartThread& startThread = [](const auto& work) { return std::thread(work); });
+  Application();
   ~Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
@@ -34,10 +32,7 @@ class Application {
 
   /// Runs `action` at once or, while deferring, in the event loop after the wait; of several with the same
   /// `event` the first alone.
-  static void runOrDefer(const void* event, const std::function<void()>& action);
-
-  /// Runs what ends the program: in a wait too, and with no event deferred; no more once `end` has begun.
-  static void runInWait(const std::function<void()>& action);
+  static void runOrDefer(const Event& event, const std::function<void()>& action);
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();

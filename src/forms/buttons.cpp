@@ -93,13 +93,9 @@ OptionButton::OptionButton(FormWindow& form, const ControlData& data) : Control(
   group.addButton(button);
   makeTabStops(group);
   QObject::connect(button, &QRadioButton::toggled, button, [&group] { makeTabStops(group); });
-  // Of those that were chosen one after the other in a paint-only wait, the last one counts.
-  chosen_ = [this](int index) {
-    if (value() && onClick) onClick(index);
-  };
   QObject::connect(button, &QRadioButton::toggled, button, [this](bool checked) { fresh_ = checked; });
   QObject::connect(button, &QRadioButton::clicked, button, [this, again = data.look.clicksAgain] {
-    if (std::exchange(fresh_, false) || again) raise(chosen_);
+    if (std::exchange(fresh_, false) || again) raise(onClick);
   });
 }
 

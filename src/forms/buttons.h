@@ -31,8 +31,11 @@ class OptionButton : public Control {
 
   Event onClick;
 
+ protected:
+  /// Of those that were chosen one after the other in a paint-only wait, the last one counts.
+  bool stillRuns() const override { return value() && enabled(); }
+
  private:
-  Event chosen_;
   /// Selected by the click whose Click is about to come.
   bool fresh_ = false;
 };

@@ -5,17 +5,19 @@
 #include <QPalette>
 #include <QToolTip>
 #include <QWidget>
+#include <algorithm>
 #include <utility>
 
 #include "forms/form_window.h"
+#include "forms/spoken_changes.h"
 #include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
 
 void Item::raise(const Event& event) const {
-  form_.raise(&event, [this, &event](bool deferred) {
-    if (event && (!deferred || enabled())) event(index_ == kSingle ? 0 : index_);
+  form_.raise(event, [this, &event](bool deferred) {
+    if (!deferred || stillRuns()) event(std::max(index_, 0));
   });
 }
 
@@ -108,13 +110,13 @@ bool Control::enabled() const {
 
 void Control::setEnabled(bool enabled) {
   // Qt would hand the focus on to the next control, where a key that is meant for this one falls: it stays
-  // nowhere until this one is enabled again.
+  // nowhere until this one is enabled again, or the user moves it on.
   if (!enabled && widget_->window()->focusWidget() == widget_) {
     keepsFocus_ = true;
     widget_->clearFocus();
   }
   widget_->setEnabled(enabled);
-  if (enabled && std::exchange(keepsFocus_, false)) setFocus();
+  if (enabled && std::exchange(keepsFocus_, false) && widget_->window()->focusWidget() == nullptr) setFocus();
 }
 
 void Control::setForeColor(Color color) {
@@ -167,6 +169,10 @@ bool Control::showToolTip(const QPoint& place) {
 
 void Control::setFocus() {
   widget_->setFocus();
+}
+
+void Control::announce() {
+  forms::announce(*widget_);
 }
 
 void Control::zOrder() {

@@ -1,9 +1,9 @@
 // What every control has: a place on its container, a look, and mouse events.
 #pragma once
 
-#include <functional>
 #include <string>
 
+#include "forms/event.h"
 #include "forms/form_data.h"
 
 class QPoint;
@@ -13,9 +13,6 @@ namespace forms {
 
 class FormWindow;
 class Surface;
-
-/// A handler of an event; it gets the index of the control in its array, 0 for a control that is in none.
-using Event = std::function<void(int index)>;
 
 /// Whatever stands on a form, visible or not. Lives as long as its form.
 class Item {
@@ -30,8 +27,11 @@ class Item {
 
  protected:
   /// Runs the handler while the form stays alive; nothing happens on a form that is not loaded. In a
-  /// paint-only wait it is deferred, and dropped where the item is disabled by the time its turn comes.
+  /// paint-only wait it is deferred, and dropped where the item is not to run it any more when its turn
+  /// comes.
   void raise(const Event& event) const;
+  /// What is asked of an event that was deferred.
+  virtual bool stillRuns() const { return enabled(); }
   FormWindow& form() const { return form_; }
 
  private:
@@ -65,6 +65,8 @@ class Control : public Item {
   const std::string& toolTipText() const { return toolTip_; }
   void setToolTipText(const std::string& text);
   void setFocus();
+  /// Has a screen reader say the control's caption, wherever the focus is.
+  void announce();
   /// Brings the control to the front of its container.
   void zOrder();
 

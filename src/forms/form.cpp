@@ -9,8 +9,6 @@
 namespace forms {
 namespace {
 
-const char* const kSpares = "Spares";
-
 std::size_t slot(int index) {
   return static_cast<std::size_t>(std::max(index, 0));
 }
@@ -110,19 +108,11 @@ void Form::loadMember(const char* name, int index) {
   QWidget::setTabOrder(widgetOf(*members[before]), made->widget());
 }
 
-/// Makes what an unknown index gives. It stands on a hidden surface of its own, so that the groups of the
-/// real option buttons never have it for a member, and disabled, so that it never takes the focus.
+/// On the form itself, where it gets into no group of real option buttons.
 Item& Form::spare(const char* name) {
   assert(false && "an array has no member of this index");
-  if (spares_.empty()) {
-    auto* nowhere = new Surface(false, Scale::Pixels);
-    nowhere->setObjectName(kSpares);
-    nowhere->setEnabled(false);
-    nowhere->setParent(&surface(""));
-    nowhere->hide();
-  }
   std::unique_ptr<Item>& made = spares_[name];
-  if (!made) made = makeLikeFirst(name, kSingle, kSpares);
+  if (!made) made = makeLikeFirst(name, kSingle, "");
   return *made;
 }
 

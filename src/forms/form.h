@@ -48,8 +48,10 @@ class ControlArray {
   ControlArray(Form& form, const char* name) : form_(form), name_(name), items_(form.items_[name]) {}
 
   T& operator()(int index) {
-    Item* member = find(index);
-    return static_cast<T&>(member != nullptr ? *member : form_.spare(name_));
+    if (Item* member = find(index)) return static_cast<T&>(*member);
+    T& spare = static_cast<T&>(form_.spare(name_));
+    spare.setVisible(false);
+    return spare;
   }
 
   /// Number of members, gaps not counted.

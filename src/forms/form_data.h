@@ -42,7 +42,6 @@ struct Look {
   bool bold = false;
   double fontSize = 8.25;  ///< points
   bool border = false;     ///< picture boxes: a thin line around
-  bool announced = false;  ///< labels: a screen reader says a new text, wherever the focus is
   Scale scale = Scale::Pixels;
   bool hidden = false;
   bool outOfSight = false;  ///< visible by its own flag, but where neither the eye nor the keyboard gets to

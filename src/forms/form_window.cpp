@@ -211,10 +211,9 @@ bool FormSurface::event(QEvent* event) {
 
 void FormSurface::closeEvent(QCloseEvent* event) {
   event->ignore();
-  const auto unload = [this] { form_.unload(); };
-  // Which never returns, so that nothing nests in the wait.
-  if (endsProgram_) return Application::runInWait(unload);
-  form_.raise(this, [unload](bool /*deferred*/) { unload(); });
+  // In a wait too: the program's end never returns, so that nothing nests.
+  if (endsProgram_) return form_.unload();
+  form_.raise(form_.onUnload, [this](bool /*deferred*/) { form_.unload(); });
 }
 
 FormWindow::FormWindow(const FormData& data) : window_(std::make_unique<FormSurface>(*this, data)) {
@@ -256,7 +255,7 @@ void FormWindow::setOuterSize(double width, double height) {
   window_->applyOuterSize();
 }
 
-void FormWindow::raise(const void* event, const std::function<void(bool deferred)>& handler) {
+void FormWindow::raise(const Event& event, const std::function<void(bool deferred)>& handler) {
   if (!loaded_) return;
   const auto alive = shared_from_this();
   if (!Application::isDeferring()) return handler(false);
@@ -266,10 +265,8 @@ void FormWindow::raise(const void* event, const std::function<void(bool deferred
   });
 }
 
-void FormWindow::raise(const std::function<void()>& event) {
-  raise(&event, [&event](bool /*deferred*/) {
-    if (event) event();
-  });
+void FormWindow::raise(const Event& event) {
+  raise(event, [&event](bool /*deferred*/) { event(); });
 }
 
 void FormWindow::load(std::function<void()> forget) {
@@ -293,9 +290,9 @@ void FormWindow::unload() {
   if (!loaded_ || unloading_) return;
   unloading_ = true;
   const auto alive = shared_from_this();
-  raise(onQueryUnload);
-  raise(onUnload);
-  raise(onTerminate);
+  onQueryUnload();
+  onUnload();
+  onTerminate();
   loaded_ = false;
   window_->hide();
   forget_();

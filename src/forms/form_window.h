@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "forms/event.h"
 #include "forms/form_data.h"
 
 namespace forms {
@@ -37,14 +38,14 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   /// Raises QueryUnload and Unload and takes the window away. Inside an unload it does nothing.
   void unload();
 
-  std::function<void()> onLoad, onResize, onQueryUnload, onUnload, onTerminate, onMouseMove;
+  Event onLoad, onResize, onQueryUnload, onUnload, onTerminate, onMouseMove;
 
   /// The widget that holds what `container` names in the form data.
   Surface& surface(const char* container) const;
 
-  /// Runs `handler`, which `event` stands for, while the form is loaded, and keeps the form alive meanwhile.
-  /// In a paint-only wait it is deferred, once for each `event`. All events of all controls come by here.
-  void raise(const void* event, const std::function<void(bool deferred)>& handler);
+  /// Runs `handler`, which serves `event`, while the form is loaded, and keeps the form alive meanwhile.
+  /// In a paint-only wait it is deferred, once for each event. All events of all controls come by here.
+  void raise(const Event& event, const std::function<void(bool deferred)>& handler);
 
  protected:
   explicit FormWindow(const FormData& data);
@@ -56,7 +57,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
 
   void load(std::function<void()> forget);
   static void destroyLater(FormWindow* form);
-  void raise(const std::function<void()>& event);
+  void raise(const Event& event);
   void setOuterSize(double width, double height);
 
   std::string caption_;

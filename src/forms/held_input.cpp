@@ -1,12 +1,71 @@
 #include "forms/held_input.h"
 
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace forms {
 namespace {
+
+enum class Receiver { Window, Widget, Any };
+
+enum class Fate {
+  Kept,    ///< served after the wait, in its turn
+  Taken,   ///< accepted, and gone
+  Refused  ///< ignored, and gone
+};
+
+struct Rule {
+  QEvent::Type type;
+  Receiver receiver;
+  Fate fate;
+};
+
+/// What becomes of an event in a wait. All others go through: the desktop's (painting, sizes, states, focus),
+/// and those that ask for an answer (a drag that passes over, an input method, the closing of a window).
+constexpr Rule kRules[] = {
+    // Widgets get mouse and keys by way of their window.
+    {QEvent::MouseMove, Receiver::Window, Fate::Kept},
+    {QEvent::MouseButtonPress, Receiver::Window, Fate::Kept},
+    {QEvent::MouseButtonRelease, Receiver::Window, Fate::Kept},
+    {QEvent::MouseButtonDblClick, Receiver::Window, Fate::Kept},
+    {QEvent::Wheel, Receiver::Window, Fate::Kept},
+    {QEvent::ContextMenu, Receiver::Window, Fate::Kept},
+    {QEvent::KeyPress, Receiver::Window, Fate::Kept},
+    {QEvent::KeyRelease, Receiver::Window, Fate::Kept},
+    {QEvent::Drop, Receiver::Window, Fate::Kept},
+    // Composed text: dead keys and input methods.
+    {QEvent::InputMethod, Receiver::Any, Fate::Kept},
+    // A widget's timer repeats what a pressed mouse does to it, and the release may be among what is kept.
+    {QEvent::Timer, Receiver::Widget, Fate::Kept},
+    // A key that is taken here goes to its window next, and not to a shortcut.
+    {QEvent::ShortcutOverride, Receiver::Any, Fate::Taken},
+    // The mouse may have gone on from where the tip would show.
+    {QEvent::ToolTip, Receiver::Widget, Fate::Taken},
+    // Qt turns into mouse events what no window takes.
+    {QEvent::TouchBegin, Receiver::Window, Fate::Refused},
+    {QEvent::TouchUpdate, Receiver::Window, Fate::Refused},
+    {QEvent::TouchEnd, Receiver::Window, Fate::Refused},
+    {QEvent::TabletPress, Receiver::Window, Fate::Refused},
+    {QEvent::TabletMove, Receiver::Window, Fate::Refused},
+    {QEvent::TabletRelease, Receiver::Window, Fate::Refused},
+    {QEvent::NativeGesture, Receiver::Window, Fate::Refused},
+};
+
+bool isReceiver(const QObject& object, Receiver receiver) {
+  switch (receiver) {
+    case Receiver::Window:
+      return object.isWindowType();
+    case Receiver::Widget:
+      return object.isWidgetType();
+    case Receiver::Any:
+      return true;
+  }
+  return false;
+}
 
 /// A mouse event as it was, at the places that it had. Taking the base over keeps the mark of what a person
 /// did, without which Qt gives no focus by a click.
@@ -21,9 +80,32 @@ class MouseEventAgain : public QMouseEvent {
   }
 };
 
+/// A drop with data of its own: those of a real one go with the answer to the desktop.
+class KeptDrop : public QDropEvent {
+ public:
+  explicit KeptDrop(const QDropEvent& drop)
+      : QDropEvent(drop.position(), drop.possibleActions(), &data_, drop.buttons(), drop.modifiers()) {
+    if (drop.mimeData()->hasText()) data_.setText(drop.mimeData()->text());
+    if (drop.mimeData()->hasUrls()) data_.setUrls(drop.mimeData()->urls());
+  }
+
+ private:
+  QMimeData data_;
+};
+
 bool isMouse(const QEvent& event) {
   return event.type() == QEvent::MouseMove || event.type() == QEvent::MouseButtonPress ||
          event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::MouseButtonDblClick;
+}
+
+bool isSameTimer(const QEvent& one, const QEvent& other) {
+  return one.type() == QEvent::Timer && other.type() == QEvent::Timer &&
+         static_cast<const QTimerEvent&>(one).timerId() == static_cast<const QTimerEvent&>(other).timerId();
+}
+
+std::unique_ptr<QEvent> copyOf(const QEvent& event) {
+  if (event.type() != QEvent::Drop) return std::unique_ptr<QEvent>(event.clone());
+  return std::make_unique<KeptDrop>(static_cast<const QDropEvent&>(event));
 }
 
 }  // namespace
@@ -35,42 +117,23 @@ HeldInput::HeldInput(QObject* application) : QObject(application) {
 bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
   if (std::exchange(served_, nullptr) == event) return false;
   if (!holding_ && held_.empty()) return false;
-  switch (event->type()) {
-    case QEvent::ShortcutOverride:
-      // A key that is taken here goes to its window next, and not to a shortcut.
-      event->accept();
-      return true;
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-      // Qt turns into mouse events what no window takes.
-      event->ignore();
-      return watched->isWindowType();
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::ContextMenu:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-      if (!watched->isWindowType()) return false;
-      keep(static_cast<QWindow*>(watched), *event);
-      return true;
-    default:
-      return false;
-  }
+  const auto* rule = std::ranges::find(kRules, event->type(), &Rule::type);
+  if (rule == std::end(kRules) || !isReceiver(*watched, rule->receiver)) return false;
+  if (rule->fate == Fate::Kept) keep(watched, *event);
+  // Whoever drops something keeps what was dropped.
+  if (event->type() == QEvent::Drop) static_cast<QDropEvent*>(event)->setDropAction(Qt::CopyAction);
+  event->setAccepted(rule->fate != Fate::Refused);
+  return true;
 }
 
-void HeldInput::keep(QWindow* window, const QEvent& event) {
-  const bool isMove = event.type() == QEvent::MouseMove;
-  if (isMove && !held_.empty() && held_.back().window == window &&
-      held_.back().event->type() == QEvent::MouseMove)
-    held_.pop_back();
-  Held kept{window, std::unique_ptr<QEvent>(event.clone()), {}, {}, {}};
+void HeldInput::keep(QObject* receiver, const QEvent& event) {
+  const auto isRepeated = [&](const Held& held) { return isSameTimer(*held.event, event); };
+  if (std::ranges::any_of(held_, isRepeated)) return;
+  // Of a mouse that moves the last place counts.
+  const bool movesOn = event.type() == QEvent::MouseMove && !held_.empty() &&
+                       held_.back().receiver == receiver && held_.back().event->type() == QEvent::MouseMove;
+  if (movesOn) held_.pop_back();
+  Held kept{receiver, copyOf(event), {}, {}, {}};
   if (isMouse(event)) {
     const auto& mouse = static_cast<const QMouseEvent&>(event);
     kept.place = mouse.position();
@@ -90,22 +153,27 @@ void HeldInput::serveNext() {
   const Held next = std::move(held_.front());
   held_.pop_front();
   release();
+  // What was typed before may have moved the focus on.
+  QObject* receiver = next.receiver;
+  if (next.event->type() == QEvent::InputMethod) receiver = QGuiApplication::focusObject();
+  if (receiver == nullptr) return;
   // A dialog that has come up meanwhile takes all input, as it does when Qt serves it.
   const QWindow* modal = QGuiApplication::modalWindow();
-  if (!next.window || (modal != nullptr && modal != next.window && !modal->isAncestorOf(next.window))) return;
+  const auto* window = qobject_cast<QWindow*>(receiver);
+  if (window != nullptr && modal != nullptr && modal != window && !modal->isAncestorOf(window)) return;
   if (isMouse(*next.event)) {
     MouseEventAgain again(static_cast<const QMouseEvent&>(*next.event), next.place, next.scenePlace,
                           next.globalPlace);
-    serve(next.window, again);
+    serve(receiver, again);
   } else {
-    serve(next.window, *next.event);
+    serve(receiver, *next.event);
   }
 }
 
-void HeldInput::serve(QWindow* window, QEvent& event) {
+void HeldInput::serve(QObject* receiver, QEvent& event) {
   served_ = &event;
   // `sendEvent` would take the mark off that a person's input bears.
-  qApp->notify(window, &event);
+  qApp->notify(receiver, &event);
 }
 
 }  // namespace forms

@@ -1,4 +1,4 @@
-// What a person does with mouse and keys while the program waits for a tool, kept for afterwards.
+// What a person does while the program waits for a tool, kept for afterwards.
 #pragma once
 
 #include <QObject>
@@ -8,7 +8,6 @@
 #include <memory>
 
 class QEvent;
-class QWindow;
 
 namespace forms {
 
@@ -20,8 +19,9 @@ class HeldInput : public QObject {
   /// Lets all input through until `hold`.
   explicit HeldInput(QObject* application);
 
-  /// Keeps input from here on, of a mouse that moves the last place alone.
+  /// Keeps input from here on.
   void hold() { holding_ = true; }
+  bool isHolding() const { return holding_; }
 
   /// Serves what was kept, in its order, one event at each turn of the event loop: serving one can open a
   /// dialog that needs those that follow. Input that comes meanwhile waits behind it.
@@ -32,17 +32,16 @@ class HeldInput : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Qt moves the point of a mouse event, copies included, along with the mouse: the places are kept beside
-  /// it.
   struct Held {
-    QPointer<QWindow> window;
+    QPointer<QObject> receiver;
     std::unique_ptr<QEvent> event;
+    /// Of a mouse event: Qt moves its point, copies included, along with the mouse.
     QPointF place, scenePlace, globalPlace;
   };
 
-  void keep(QWindow* window, const QEvent& event);
+  void keep(QObject* receiver, const QEvent& event);
   void serveNext();
-  void serve(QWindow* window, QEvent& event);
+  void serve(QObject* receiver, QEvent& event);
 
   bool holding_ = false;
   std::deque<Held> held_;

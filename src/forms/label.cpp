@@ -7,7 +7,6 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/spoken_changes.h"
 #include "forms/style.h"
 #include "forms/surface.h"
 
@@ -18,7 +17,7 @@ namespace {
 constexpr Qt::AlignmentFlag kFlags[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 constexpr double kLeftShares[] = {0, 1, 0.5};
 
-/// The lines of its container lie on top of it: it paints those that cross it itself.
+/// Its ground hides no line of its container: those that cross it are painted again, behind its text.
 class LabelWidget : public QLabel {
  public:
   /// Makes the text as narrow as it has to be before it is painted next. Measuring takes as long as all else
@@ -29,13 +28,17 @@ class LabelWidget : public QLabel {
   void paintEvent(QPaintEvent* event) override {
     // The widths are made for Arial: where neither that nor a font like it is installed, most are wider.
     if (std::exchange(toFit_, false)) setFont(narrowed(font(), text(), width()));
+    paintLines(event->rect());
     QLabel::paintEvent(event);
-    QPainter painter(this);
-    painter.translate(-pos());
-    static_cast<const Surface*>(parentWidget())->paintLines(painter, event->rect().translated(pos()));
   }
 
  private:
+  void paintLines(const QRect& extent) {
+    QPainter painter(this);
+    painter.translate(-pos());
+    static_cast<const Surface*>(parentWidget())->paintLines(painter, extent.translated(pos()));
+  }
+
   bool toFit_ = false;
 };
 
@@ -61,7 +64,6 @@ class Outline : public QWidget {
 
 Label::Label(FormWindow& form, const ControlData& data)
     : Control(form, data, makeLabel()), autoSize_(data.look.autoSize), elided_(data.look.elided) {
-  if (data.look.announced) setAnnounced(*widget());
   container().addLabel(widget());
   setAlignment(data.look.alignment);
   setTransparent(data.look.transparent);

@@ -2,7 +2,6 @@
 
 #include <QSlider>
 #include <QWheelEvent>
-#include <utility>
 
 #include "forms/spoken.h"
 #include "forms/style.h"
@@ -49,7 +48,7 @@ Slider::Slider(FormWindow& form, const ControlData& data, const SliderData& valu
   slider_->setRange(values.min, values.max);
   slider_->setValue(values.value);
   QObject::connect(slider_, &QSlider::valueChanged, slider_, [this] {
-    if (byHand_) raise(onScroll);
+    raise(onScroll);
     raise(onChange);
   });
 }
@@ -59,9 +58,12 @@ int Slider::value() const {
 }
 
 void Slider::setValue(int value) {
-  const bool before = std::exchange(byHand_, false);
-  slider_->setValue(value);
-  byHand_ = before;
+  const int before = slider_->value();
+  {
+    const QSignalBlocker noStep(slider_);
+    slider_->setValue(value);
+  }
+  if (slider_->value() != before) raise(onChange);
 }
 
 int Slider::min() const {

@@ -31,7 +31,6 @@ class Slider : public Control {
 
  private:
   QSlider* slider_;
-  bool byHand_ = true;
 };
 
 }  // namespace forms

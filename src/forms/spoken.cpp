@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "forms/spoken_changes.h"
 #include "forms/surface.h"
 
 namespace forms {
@@ -17,6 +16,7 @@ namespace {
 
 constexpr auto kFactor = "spokenFactor";
 constexpr auto kFull = "spokenFull";
+constexpr auto kNotification = "spokenNotification";
 
 /// Qt tells a screen reader that a plain widget is a filler, be it a window or the frame of a group.
 class SpokenSurface : public QAccessibleWidget {
@@ -112,7 +112,9 @@ class SpokenBar : public SpokenNumber {
 QAccessibleInterface* makeSpoken(const QString& /*kind*/, QObject* object) {
   if (auto* surface = dynamic_cast<Surface*>(object)) return new SpokenSurface(surface);
   auto* widget = qobject_cast<QWidget*>(object);
-  if (widget == nullptr) return spokenAnnouncement(object);
+  if (widget == nullptr) return nullptr;
+  if (widget->property(kNotification).toBool())
+    return new QAccessibleWidget(widget, QAccessible::Notification);
   // Qt's own dialogs have buttons and sliders, too.
   if (dynamic_cast<Surface*>(widget->window()) == nullptr) return nullptr;
   if (auto* option = qobject_cast<QRadioButton*>(widget))
@@ -127,7 +129,13 @@ QAccessibleInterface* makeSpoken(const QString& /*kind*/, QObject* object) {
 
 void installSpokenWidgets() {
   QAccessible::installFactory(makeSpoken);
-  listenToChanges();
+}
+
+QWidget* makeNotification(QWidget& window, const QString& words) {
+  auto* notification = new QWidget(&window);
+  notification->setProperty(kNotification, true);
+  notification->setAccessibleName(words);
+  return notification;
 }
 
 void setSpokenFactor(QSlider& slider, double factor) {

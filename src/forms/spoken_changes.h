@@ -1,8 +1,6 @@
-// What changes away from the focus, as a screen reader hears of it: once, when things are at rest.
+// What a screen reader is told away from the focus: once, when things are at rest.
 #pragma once
 
-class QAccessibleInterface;
-class QObject;
 class QWidget;
 
 namespace forms {
@@ -12,10 +10,8 @@ namespace forms {
 /// its user: what is to be heard is announced, in words that stand on the window.
 void listenToChanges();
 
-/// Has a new text of the label announced.
-void setAnnounced(QWidget& label);
-
-/// The description of an announcement; null where `object` is none.
-QAccessibleInterface* spokenAnnouncement(QObject* object);
+/// Has a screen reader say the widget's name, of a line of text its text too, as they are after a while: what
+/// follows soon is said with it.
+void announce(QWidget& widget);
 
 }  // namespace forms

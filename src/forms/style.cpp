@@ -15,7 +15,6 @@ namespace {
 constexpr QRgb kFace = 0xFFD8D8D8;
 /// Dark enough to stand out from each ground that it lies on, greys and white, by at least 3 to 1.
 constexpr QRgb kFocus = 0xFF104E9E;
-constexpr QRgb kFocusedThumb = 0xFF104E9E;
 
 QPalette lightPalette() {
   QPalette palette{QColor(kFace)};
@@ -38,7 +37,7 @@ QPalette lightPalette() {
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStyleFactory::create("Fusion")), plain_(lightPalette()), focus_(plain_) {
-    focus_.setColor(QPalette::Button, QColor(kFocusedThumb));
+    focus_.setColor(QPalette::Button, QColor(kFocus));
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -75,18 +74,18 @@ class Style : public QProxyStyle {
     // A box for text has no other sign of the focus, once nothing in it is selected.
     const bool isBox =
         element == PE_Frame || (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth == 0);
-    if (isMark || (isBox && option->state & State_HasFocus))
-      drawOutline(*painter, option->rect, QColor(kFocus));
+    // The neighbours of an option button cover its first and last row of pixels.
+    const QRect extent = isMark ? option->rect & widget->rect().adjusted(0, 1, 0, -1) : option->rect;
+    if (isMark || (isBox && option->state & State_HasFocus)) drawOutline(*painter, extent, QColor(kFocus));
     // Fusion only turns the edge from grey to blue, and of two buttons in a row one hides the other's edge.
     if (element == PE_PanelButtonCommand && option->state & State_HasFocus)
       drawOutline(*painter, option->rect.adjusted(1, 1, -1, -1), QColor(kFocus));
   }
 
-  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override {
-    const QRect extent = QProxyStyle::subElementRect(element, option, widget);
-    const bool isMark = element == SE_RadioButtonFocusRect || element == SE_CheckBoxFocusRect;
-    // The neighbours of an option button cover its first and last row of pixels.
-    return isMark ? extent & option->rect.adjusted(0, 1, 0, -1) : extent;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    // So that a number stands nearer to its own circle than to the next one.
+    if (metric == PM_RadioButtonLabelSpacing) return 3;
+    return QProxyStyle::pixelMetric(metric, option, widget);
   }
 
   SubControl hitTestComplexControl(ComplexControl control, const QStyleOptionComplex* option,

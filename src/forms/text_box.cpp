@@ -33,6 +33,8 @@ QWidget* makeBox(bool multiLine) {
   auto* box = new LineBox;
   box->setReadOnly(true);
   box->setFrame(false);
+  // What is dropped on it is for the window: Qt would refuse it here.
+  box->setAcceptDrops(false);
   return box;
 }
 
@@ -108,11 +110,8 @@ void TextBox::edited() {
 }
 
 void TextBox::setSelStart(int position) {
+  if (editor_ == nullptr) return;
   sync();
-  if (editor_ == nullptr) {
-    static_cast<QLineEdit*>(widget())->setCursorPosition(position);
-    return;
-  }
   QTextCursor cursor = editor_->textCursor();
   cursor.setPosition(std::clamp(position, 0, editor_->document()->characterCount() - 1));
   editor_->setTextCursor(cursor);

@@ -16,7 +16,7 @@ class TextBox : public Control {
   const std::string& text() const { return text_; }
   /// A different text raises Change before the assignment returns.
   void setText(const std::string& text);
-  /// Puts the cursor before the character with this number, counted from 0.
+  /// Puts the cursor before the character with this number, counted from 0, in a box of many lines.
   void setSelStart(int position);
 
   Event onChange;

@@ -11,14 +11,17 @@ Timer::Timer(FormWindow& form, const TimerData& data)
     : Item(form, kSingle), timer_(new QTimer(&form.surface(""))) {
   timer_->setTimerType(Qt::PreciseTimer);
   timer_->setInterval(data.interval);
-  tick_ = [this](int index) {
-    if (ticking_ || !onTick) return;
-    ticking_ = true;
-    onTick(index);
-    ticking_ = false;
-  };
-  QObject::connect(timer_, &QTimer::timeout, timer_, [this] { raise(tick_); });
+  QObject::connect(timer_, &QTimer::timeout, timer_, [this] { tick(); });
   setEnabled(data.enabled);
+}
+
+void Timer::tick() {
+  form().raise(onTick, [this](bool /*deferred*/) {
+    if (!enabled_ || ticking_) return;
+    ticking_ = true;
+    onTick();
+    ticking_ = false;
+  });
 }
 
 void Timer::setEnabled(bool enabled) {

@@ -19,8 +19,9 @@ class Timer : public Item {
   Event onTick;
 
  private:
+  void tick();
+
   QTimer* timer_;
-  Event tick_;
   bool enabled_ = false;
   bool ticking_ = false;
 };

@@ -133,7 +133,6 @@ void setWaitHook(WaitHook hook) {
 }
 
 bool ChildProcess::start(const std::string& commandLine) {
-  close();
   const Command command = parseCommand(commandLine);
   int ends[2];
   if (command.program.empty() || pipe2(ends, O_CLOEXEC) != 0) return false;

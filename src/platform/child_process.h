@@ -29,8 +29,7 @@ void setWaitHook(WaitHook hook);
 /// use every processor that this process may use. Where the system refuses either, nothing else changes.
 class ChildProcess {
  public:
-  /// Starts `commandLine` (see `parseCommand`), and lets go of an earlier child. False, with nothing left
-  /// open, where no child could be started.
+  /// Starts `commandLine` (see `parseCommand`). False where no child could be started.
   bool start(const std::string& commandLine);
 
   /// Blocks until the child has printed something or its output has ended; copies at most `size` bytes into

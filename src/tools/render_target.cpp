@@ -20,17 +20,17 @@ std::vector<RenderedFiles> running;
 
 }  // namespace
 
-FileUse useOf(const std::string& path) {
+FileUse useOf(const std::string& path, const AppStateRecord& state) {
   const auto is = [&path](const std::string& other) { return platform::sameFile(path, other); };
   const auto isRead = [&is](const RenderedFiles& files) { return is(files.source); };
   const auto isWritten = [&is](const RenderedFiles& files) { return is(files.target); };
-  if (is(platform::unquotedPath(AppState.SourcePathShort)) || std::ranges::any_of(running, isRead))
+  if (is(platform::unquotedPath(state.SourcePathShort)) || std::ranges::any_of(running, isRead))
     return FileUse::Input;
   return std::ranges::any_of(running, isWritten) ? FileUse::Output : FileUse::None;
 }
 
-std::string makeTarget(const std::string& path) {
-  const FileUse use = useOf(path);
+std::string makeTarget(const std::string& path, const AppStateRecord& state) {
+  const FileUse use = useOf(path, state);
   if (use == FileUse::Input) return {};
   // Where the marker finds no room, as on a full disk, FFmpeg is started all the same: it tells by itself.
   if (use == FileUse::None) platform::writeFile(path, kMarker);
@@ -39,7 +39,7 @@ std::string makeTarget(const std::string& path) {
 
 void claimTarget(AppStateRecord& state) {
   const std::string target = platform::unquotedPath(state.SavePathShort);
-  const FileUse use = useOf(target);
+  const FileUse use = useOf(target, state);
   if (use == FileUse::Input) state.SavePathShort.clear();
   if (use != FileUse::Output) return;
   platform::removeFile(target);

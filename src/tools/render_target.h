@@ -12,14 +12,15 @@ enum class FileUse {
   Output,  ///< a running render writes it
 };
 
-/// The use of the file at `path`, by whatever name and links; None where there is no such file.
-FileUse useOf(const std::string& path);
+/// The use of the file at `path`, by whatever name and links; None where there is no such file. The source is
+/// that of `state`.
+FileUse useOf(const std::string& path, const AppStateRecord& state);
 
 /// Makes the file at `path` exist, since only an existing file has a short path, and returns that path:
 /// creates or empties it and writes the marker line into it. The output of a running render stays as it is.
 /// Empty, with nothing written, for an input, so that FFmpeg finds no target and refuses; also where no file
 /// can be made.
-std::string makeTarget(const std::string& path);
+std::string makeTarget(const std::string& path, const AppStateRecord& state);
 
 /// Called just before a render starts: what became of its target since it was made. A target that is an input
 /// by now is taken out of `state`. From the output of a running render the name is taken, which then writes

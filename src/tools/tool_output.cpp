@@ -75,9 +75,8 @@ std::string_view progressTime(std::string_view piece) {
 }
 
 std::string percentText(float value, float max) {
-  const double percent = static_cast<double>(value) / (static_cast<double>(max) / 100);
-  const double hundredths = std::round(percent * 100);
-  if (!std::isfinite(hundredths)) return "00.00";
+  // In whole hundredths: dividing by a hundredth of `max` first would miss an exact half.
+  const double hundredths = std::round(static_cast<double>(value) * 10000 / static_cast<double>(max));
   std::array<char, 64> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), hundredths / 100,
                                  std::chars_format::fixed, 2)

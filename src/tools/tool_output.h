@@ -23,5 +23,5 @@ std::optional<std::string> durationSecondsOfRun(std::string_view output);
 /// or what there is of them.
 std::string_view progressTime(std::string_view piece);
 
-/// `value` in percent of `max`: at least two digits before the point and two behind it, "04.50", "100.00".
+/// `value` in percent of `max`, which is above 0: at least two digits before the point and two behind it, "04.50", "100.00".
 std::string percentText(float value, float max);

@@ -28,14 +28,3 @@ void MainWindow::ShowSelectedBand(int Index) {
   bar.setY2(middle);
   bar.setBorderColor(barColor(slider.value(), slider.min()));
 }
-
-void MainWindow::Slider1_MouseMove(int Index) {
-  if (!Label6.visible()) Label6.setVisible(true);
-  Label6.setLeft(Slider1(Index).left() + Picture1(0).left() + Label6.width() / 2);
-  HighlightBandLabel(Index);
-  ResetGainLabels();
-}
-
-void MainWindow::HighlightBandLabel(int Index) {
-  for (int i = 0; i < Slider1.count(); ++i) Label1(i).setForeColor(i == Index ? kRed : kBlack);
-}

@@ -64,7 +64,8 @@ void MainWindow::PlaceBandLabels() {
   }
   for (int i = 0; i < kBands; ++i) {
     forms::Label& number = Label9(i);
-    number.setTop(Picture1(0).top() - Label9(0).height() - 5);
+    // A pixel higher than the 5 of the layout: the marker under it would cover the lowest row of its digits.
+    number.setTop(Picture1(0).top() - Label9(0).height() - 6);
     number.setLeft(Slider1(i).left() + Picture1(0).left() + number.width() / 2);
     number.setAlignment(forms::Alignment::Centre);
     number.setAutoSize(true);

@@ -12,6 +12,7 @@ void CopyToClipboard(forms::CommandButton& button, const std::string& text) {
   forms::Clipboard::clear();
   forms::Clipboard::setText(text);
   button.setCaption(kCopied);
+  button.announce();
 }
 
 void EndCopyNotice(forms::CommandButton& button, std::string_view caption) {

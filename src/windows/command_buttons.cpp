@@ -45,5 +45,9 @@ void MainWindow::EndClipboardNotice() {
 }
 
 void MainWindow::EnableSourceButtons(bool Enabled) {
-  for (const int button : {2, 3, 7, 8}) Command1(button).setEnabled(Enabled);
+  for (const int i : {2, 3, 7, 8}) {
+    forms::CommandButton& button = Command1(i);
+    if (Enabled && !button.enabled()) button.announce();
+    button.setEnabled(Enabled);
+  }
 }

@@ -11,6 +11,6 @@ void ComposeEqString(int Index) {
   AppState.BandGainText[static_cast<std::size_t>(Index)] = bandGainText(Form1->Slider1(Index).value());
   AppState.EqString.clear();
   Form3->Text1.setText("");
-  composeChain(AppState.EqString, AppState);
+  composeChain(AppState);
   Form3->Text1.setText(AppState.EqString);
 }

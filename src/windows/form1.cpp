@@ -7,12 +7,12 @@ forms::DefaultInstance<MainWindow> Form1;
 
 MainWindow::MainWindow()
     : Form(kForm1Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {
-  onLoad = [this] { Form_Load(); };
-  onResize = [this] { Form_Resize(); };
-  onQueryUnload = [this] { Form_QueryUnload(); };
-  onUnload = [this] { Form_Unload(); };
-  onTerminate = [this] { Form_Terminate(); };
-  onMouseMove = [this] { Form_MouseMove(); };
+  onLoad = [this](int) { Form_Load(); };
+  onResize = [this](int) { Form_Resize(); };
+  onQueryUnload = [this](int) { Form_QueryUnload(); };
+  onUnload = [this](int) { Form_Unload(); };
+  onTerminate = [this](int) { Form_Terminate(); };
+  onMouseMove = [this](int) { Form_MouseMove(); };
 
   Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
   Slider2.onMouseMove = [this](int) { Slider2_MouseMove(); };

@@ -8,7 +8,6 @@ namespace {
 constexpr Look kCentred{.alignment = Alignment::Centre};
 constexpr Look kTitle{.back = kGrey, .fore = kPaleGrey, .alignment = Alignment::Centre};
 constexpr Look kReadOut{.back = kLightGrey, .fore = kDarkGrey};
-constexpr Look kAnnounced{.back = kLightGrey, .fore = kDarkGrey, .announced = true};
 constexpr Look kClearReadOut{.back = kLightGrey, .fore = kDarkGrey, .transparent = true};
 constexpr Look kRightReadOut{
     .back = kLightGrey, .fore = kDarkGrey, .alignment = Alignment::Right, .transparent = true};
@@ -68,7 +67,7 @@ constexpr ControlData kControls[] = {
     {Kind::CheckBox, "Check1", kSingle, "Picture1(2)", 120, 2880, 1575, 210, 40, "Indicator bars", {.selected = true}},
     {Kind::CommandButton, "Command1", 10, "Picture1(2)", 120, 3240, 1575, 375, 37, "Exit"},
     // Status strip.
-    {Kind::Label, "Label7", 0, "Picture4", 120, 120, 1575, 255, 42, "Preset Settings: 0", kAnnounced},
+    {Kind::Label, "Label7", 0, "Picture4", 120, 120, 1575, 255, 42, "Preset Settings: 0", kReadOut},
     {Kind::Label, "Label7", 1, "Picture4", 1800, 120, 1695, 255, 43, "EQ Range: +/- 12 db", kReadOut},
     {Kind::Label, "Label7", 2, "Picture4", 3600, 120, 1455, 255, 44, "Low Cut Filter: Off", kReadOut},
     {Kind::Label, "Label7", 3, "Picture4", 5280, 120, 1215, 255, 45, "Indicators: On", kReadOut},

@@ -13,7 +13,7 @@ forms::DefaultInstance<RenderWindow> Form2;
 
 RenderWindow::RenderWindow()
     : Form(kForm2Data), objDOS([this](std::string& piece) { objDOS_ReceiveOutputs(piece); }) {
-  onLoad = [this] { Form_Load(); };
+  onLoad = [this](int) { Form_Load(); };
   Command1.onClick = [this](int) { Command1_Click(); };
   Timer1.onTick = [this](int) { Timer1_Timer(); };
 }

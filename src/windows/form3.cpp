@@ -9,15 +9,14 @@ forms::DefaultInstance<EqStringWindow> Form3;
 
 namespace {
 
-constexpr auto kTitle = "FFmpeg Equalizer String";
 /// Outer width in twips that the four buttons need.
 constexpr double kLeastWidth = 8820;
 
 }  // namespace
 
 EqStringWindow::EqStringWindow() : Form(kForm3Data) {
-  onLoad = [this] { Form_Load(); };
-  onResize = [this] { Form_Resize(); };
+  onLoad = [this](int) { Form_Load(); };
+  onResize = [this](int) { Form_Resize(); };
   Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
   Text1.onChange = [this](int) { Text1_Change(); };
   Timer1.onTick = [this](int) { Timer1_Timer(); };
@@ -58,6 +57,6 @@ void EqStringWindow::ListIndividualStrings() {
 }
 
 void EqStringWindow::Timer1_Timer() {
-  setCaption(kTitle);
+  setCaption(kForm3Data.caption);
   Timer1.setEnabled(false);
 }

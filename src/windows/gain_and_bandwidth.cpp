@@ -22,10 +22,6 @@ void MainWindow::Slider2_change() {
   Slider2_Scroll();
 }
 
-void MainWindow::Slider2_MouseMove() {
-  ResetGainLabels();
-}
-
 void MainWindow::ShowGain(int Value) {
   AppState.AudioGain = static_cast<double>(Value) / kUnity;
   const std::string percent = std::to_string(Value * 100 / kUnity);
@@ -57,20 +53,4 @@ void MainWindow::ShowBandWidth(int Value) {
   Label8(3).setCaption("Current Bandwidth Settings: " + width + " Hz");
   Label7(6).setCaption("Current Bandwidth: " + width + " Hz");
   EndClipboardNotice();
-}
-
-void MainWindow::Picture1_MouseMove() {
-  ResetGainLabels();
-}
-
-void MainWindow::Picture4_MouseMove() {
-  ResetGainLabels();
-}
-
-void MainWindow::Text1_MouseMove() {
-  ResetGainLabels();
-}
-
-void MainWindow::ResetGainLabels() {
-  Label4.each([](forms::Label& label) { label.setForeColor(kBlack); });
 }

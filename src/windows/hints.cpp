@@ -3,6 +3,17 @@
 #include "windows/colors.h"
 #include "windows/form1.h"
 
+void MainWindow::Slider1_MouseMove(int Index) {
+  if (!Label6.visible()) Label6.setVisible(true);
+  Label6.setLeft(Slider1(Index).left() + Picture1(0).left() + Label6.width() / 2);
+  HighlightBandLabel(Index);
+  ResetGainLabels();
+}
+
+void MainWindow::HighlightBandLabel(int Index) {
+  for (int i = 0; i < Slider1.count(); ++i) Label1(i).setForeColor(i == Index ? kRed : kBlack);
+}
+
 void MainWindow::Form_MouseMove() {
   if (!Label6.visible()) return;
   Label6.setVisible(false);
@@ -11,6 +22,26 @@ void MainWindow::Form_MouseMove() {
 
 void MainWindow::Label4_MouseMove(int Index) {
   Label4.each([Index](forms::Label& label) { label.setForeColor(label.index() == Index ? kBlue : kBlack); });
+}
+
+void MainWindow::Slider2_MouseMove() {
+  ResetGainLabels();
+}
+
+void MainWindow::Picture1_MouseMove() {
+  ResetGainLabels();
+}
+
+void MainWindow::Picture4_MouseMove() {
+  ResetGainLabels();
+}
+
+void MainWindow::Text1_MouseMove() {
+  ResetGainLabels();
+}
+
+void MainWindow::ResetGainLabels() {
+  Label4.each([](forms::Label& label) { label.setForeColor(kBlack); });
 }
 
 void MainWindow::Label4_MouseUp(int Index) {

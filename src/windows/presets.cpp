@@ -87,6 +87,7 @@ void SelectPreset(int Index) {
   AppState.PresetNumber = Index;
   if (Index == 0) Form1->Timer3.setEnabled(true);
   Form1->Label7(0).setCaption("Preset Settings: " + std::to_string(Index));
+  Form1->Label7(0).announce();
   LoadPreset(AppState.PresetNumber);
 }
 

@@ -13,7 +13,7 @@ void SaveAsFile() {
   if (dialog.fileName().empty()) return;
 
   AppState.SavePath = dialog.fileName();
-  AppState.SavePathShort = makeTarget(AppState.SavePath);
+  AppState.SavePathShort = makeTarget(AppState.SavePath, AppState);
   Form2.load();
   Form2->Label1(1).setCaption(AppState.SavePathShort);
   Form2->show(&*Form1);

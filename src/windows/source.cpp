@@ -16,11 +16,14 @@ void OpenSourceFile() {
                 "WMA Files (*.wma)|*.wma|MP3 Files (*.mp3)|*.mp3|WAV Files (*.wav)|*.wav|All Files (*.*)|*.*",
                 4);
   dialog.showOpen();
-  if (dialog.fileName().empty()) return;
+  if (!dialog.fileName().empty()) UseSource(dialog.fileName());
+}
 
-  AppState.SourcePathShort = GetShortPath(dialog.fileName());
+void UseSource(const std::string& Path) {
+  AppState.SourcePathShort = GetShortPath(Path);
   Form1->Text1.setText("");
   Form1->Text1.setText(AppState.SourcePathShort);
+  Form1->Text1.announce();
   Form1->Text1.setBackColor(kLightGrey);
   Form1->EnableSourceButtons(true);
   Form1->GetSourceDuration();

@@ -1,6 +1,10 @@
 // The choice of a source file.
 #pragma once
 
-/// Asks for the source, shows it and opens the buttons that wait for one. A Cancel changes nothing but the
-/// colour of the line that shows the source.
+#include <string>
+
+/// Asks for the source and takes it over. A Cancel changes nothing but the colour of the line that shows it.
 void OpenSourceFile();
+
+/// Makes the file at `Path` the source: shows it, opens the buttons that wait for one, and measures it.
+void UseSource(const std::string& Path);

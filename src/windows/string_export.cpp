@@ -1,5 +1,6 @@
 // The string window's buttons: its text goes to a file or to the clipboard, as the box shows it.
 
+#include "core/app_state.h"
 #include "platform/files.h"
 #include "tools/render_target.h"
 #include "windows/clipboard_notice.h"
@@ -30,7 +31,7 @@ void EqStringWindow::SaveText() {
   forms::CommonDialog& dialog = Form1->CDialog;
   prepareDialog("Save As", "Text Files (*.txt)|*.txt|All File Types (*.*)|*.*", 1);
   dialog.showSave();
-  if (dialog.fileName().empty() || useOf(dialog.fileName()) != FileUse::None) return;
+  if (dialog.fileName().empty() || useOf(dialog.fileName(), AppState) != FileUse::None) return;
   platform::writeFile(dialog.fileName(), Text1.text() + "\r\n");
 }
 

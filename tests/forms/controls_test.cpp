@@ -4,6 +4,7 @@
 #include <QAbstractSlider>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QWindow>
 
 #include "support/session.h"
@@ -61,11 +62,11 @@ TEST_F(Controls, ShowTextAsItIs) {
 }
 
 TEST_F(Controls, AWindowComesBackFreshAfterAnUnloadOfWhichItsHandlersHearOnce) {
-  Form3->onQueryUnload = [this] {
+  Form3->onQueryUnload = [this](int) {
     events += "Q";
     Form3.unload();
   };
-  Form3->onUnload = [this] {
+  Form3->onUnload = [this](int) {
     events += "U";
     Form3->Text1.setText("still there");
   };
@@ -85,9 +86,9 @@ class PaintOnlyWait : public support::Session {
     close(ends_[1]);
   }
   /// Waits for output that does not come, and acts meanwhile.
-  void waitWith(const std::function<void()>& act) {
+  void waitWith(const std::function<void()>& act, int milliseconds = 60) {
     QTimer::singleShot(1, act);
-    forms::Application::waitPainting(ends_[0], 60);
+    forms::Application::waitPainting(ends_[0], milliseconds);
   }
   QWidget* window = windowOf(Form1->Label6);
 
@@ -159,6 +160,43 @@ TEST_F(PaintOnlyWait, KeepsAPostedKeyForLater) {
   EXPECT_EQ(Form1->Slider1(4).value(), 0);
   forms::Application::doEvents();
   EXPECT_EQ(Form1->Slider1(4).value(), 1);
+}
+
+/// The slider would repeat what the press did before it hears of the release.
+TEST_F(PaintOnlyWait, AShortClickInAGrooveMovesOnePage) {
+  const QPoint end =
+      Form1->Slider2.widget()->mapTo(window, Form1->Slider2.widget()->rect().center() * 2 - QPoint(9, 20));
+  QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, end);
+  EXPECT_EQ(Form1->Slider2.value(), 10);
+  Form1->Slider2.setValue(-10);
+  waitWith([&] { QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, end); }, 700);
+  forms::Application::doEvents();
+  EXPECT_EQ(Form1->Slider2.value(), -10);
+}
+
+TEST_F(PaintOnlyWait, KeepsComposedTextAndDropsForLaterInTheirOrder) {
+  Form3->show(&*Form1);
+  QWindow* strings = windowOf(Form3->Text1)->windowHandle();
+  ASSERT_TRUE(support::waitFor([] { return Form3->Text1.widget()->hasFocus(); }));
+  QMimeData dropped;
+  dropped.setText("drop");
+  QDropEvent drop(QPointF(20, 20), Qt::CopyAction | Qt::MoveAction, &dropped, Qt::LeftButton, {});
+  QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton, {});
+  QApplication::sendEvent(strings, &enter);
+  waitWith([&] {
+    QTest::keyClicks(Form3->Text1.widget(), "");
+    for (const Qt::Key key : {Qt::Key_C, Qt::Key_A, Qt::Key_F}) QTest::keyClick(strings, key);
+    QInputMethodEvent composed;
+    composed.setCommitString("\u00e9");
+    QApplication::sendEvent(Form3->Text1.widget(), &composed);
+    QTest::keyClick(strings, Qt::Key_Space);
+    QApplication::sendEvent(strings, &drop);
+    dropped.setText("changed");
+  });
+  EXPECT_EQ(Form3->Text1.text(), "");
+  EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+  forms::Application::doEvents();
+  EXPECT_EQ(Form3->Text1.text(), "dropcaf\u00e9 ");
 }
 
 /// What a screen reader does is no input that the desktop would hold back.

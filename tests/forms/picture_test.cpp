@@ -19,6 +19,17 @@ class Picture : public support::Session {
     const QWidget* widget = control.widget();
     return {widget->mapTo(widget->window(), QPoint()), widget->size()};
   }
+  /// Those pixels of a picture that `matters` names are as they were.
+  static void expectSame(const QImage& before, const QImage& after,
+                         const std::function<bool(const QColor&)>& matters) {
+    for (int y = 0; y < before.height(); ++y)
+      for (int x = 0; x < before.width(); ++x) {
+        const QColor color = before.pixelColor(x, y);
+        if (matters(color)) {
+          EXPECT_EQ(after.pixelColor(x, y).name(), color.name()) << x << ", " << y;
+        }
+      }
+  }
   /// The bar of a band with one pixel around, from the highest place of the thumb to the lowest.
   static QRect placeOfBar(int band) {
     const QRect slider = placeOf(Form1->Slider1(band));
@@ -39,10 +50,34 @@ TEST_F(Picture, ShowsTheBarsOfAllBandsAlikeWhateverLabelsStandThere) {
         const QImage bar = picture.copy(placeOfBar(i));
         int pixels = 0;
         for (int y = 0; y < bar.height(); ++y) pixels += bar.pixel(2, y) == color;
-        EXPECT_EQ(pixels, 60) << "at " << end << " of range " << range << " in band " << i;
+        const int underText = i == 0 ? 6 : 0;
+        EXPECT_GE(pixels, 60 - underText) << "at " << end << " of range " << range << " in band " << i;
       }
     }
   }
+}
+
+TEST_F(Picture, ShowsTheScaleAcrossTheBarOfTheFirstBand) {
+  const QWidget& window = *windowOf(Form1->Label6);
+  for (const int end : {0, 1}) {
+    Form1->Slider1(0).setValue(0);
+    const QRect place = placeOf(Form1->Label2(end));
+    const QImage plain = shown(window).copy(place);
+    Form1->Slider1(0).setValue(end == 0 ? -12 : 12);
+    const QImage crossed = shown(window).copy(place);
+    EXPECT_NE(plain, crossed) << "no bar at end " << end;
+    expectSame(plain, crossed, [](const QColor& color) { return color == Qt::black; });
+  }
+}
+
+TEST_F(Picture, TheMarkerLeavesTheNumberOfTheBandWhole) {
+  const QWidget& window = *windowOf(Form1->Label6);
+  const QRect number = placeOf(Form1->Label9(7));
+  const QImage before = shown(window).copy(number);
+  Form1->Slider1(7).onMouseMove(7);
+  const QImage after = shown(window).copy(number);
+  EXPECT_NE(before, after) << "no marker";
+  expectSame(before, after, [&](const QColor& color) { return color != before.pixelColor(0, 0); });
 }
 
 TEST_F(Picture, ShowsALineOverALabelWithoutText) {
@@ -65,6 +100,15 @@ TEST_F(Picture, FillsNoPartOfAGroove) {
   }
 }
 
+/// How many rows, or columns, of a mark have at least a quarter of its width, or height.
+int sides(const std::vector<QPoint>& mark, const QRect& extent, bool rows) {
+  std::map<int, int> lengths;
+  for (const QPoint& point : mark) ++lengths[rows ? point.y() : point.x()];
+  const int least = (rows ? extent.width() : extent.height()) / 4;
+  return static_cast<int>(
+      std::ranges::count_if(lengths, [least](const auto& side) { return side.second > least; }));
+}
+
 /// Of a colour, from 0 to 1, as the Web Content Accessibility Guidelines define it.
 double luminance(QRgb color) {
   const auto linear = [](int part) {
@@ -79,7 +123,7 @@ bool standsOut(QRgb color, QRgb before) {
   return (lighter + 0.05) / (darker + 0.05) >= 3;
 }
 
-TEST_F(Picture, MarksTheFocusInFullHeightByAContrastOf3To1) {
+TEST_F(Picture, MarksTheFocusOnAllSidesByAContrastOf3To1) {
   openSource(support::writeText(folder, "a.wav", ""));
   Form3->show(&*Form1);
   for (QWidget* window : {windowOf(Form1->Label6), windowOf(Form3->Text1)}) {
@@ -92,15 +136,20 @@ TEST_F(Picture, MarksTheFocusInFullHeightByAContrastOf3To1) {
       const QImage before = shown(*window).copy(extent);
       widget->setFocus(Qt::TabFocusReason);
       const QImage after = shown(*window).copy(extent);
-      QRect mark;
+      std::vector<QPoint> mark;
+      QRect around;
       for (int y = 0; y < after.height(); ++y)
         for (int x = 0; x < after.width(); ++x)
           if (after.pixel(x, y) != before.pixel(x, y) &&
               (standsOut(after.pixel(x, y), before.pixel(x, y)) || standsOut(after.pixel(x, y), ground)))
-            mark |= QRect(x, y, 1, 1);
+            mark.emplace_back(x, y);
+      for (const QPoint& point : mark) around |= QRect(point, QSize(1, 1));
       const int thumb = 10;
       const int expected = qobject_cast<QSlider*>(widget) != nullptr ? thumb : widget->height() - 2;
-      EXPECT_GE(mark.height(), expected) << widget->objectName().toStdString() << " of " << widget->height();
+      const std::string name = widget->objectName().toStdString();
+      EXPECT_GE(around.height(), expected) << name << " of " << widget->height();
+      for (const bool rows : {true, false})
+        EXPECT_GE(sides(mark, around, rows), 2) << (rows ? "rows" : "columns") << " of the mark of " << name;
     }
   }
 }

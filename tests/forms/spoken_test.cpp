@@ -4,6 +4,7 @@
 #include <QSlider>
 
 #include "support/session.h"
+#include "windows/presets.h"
 
 namespace {
 
@@ -30,6 +31,17 @@ class Spoken : public support::Session {
     Form1->Option2.each(noteClick);
     Form1->Option3.each(noteClick);
     noteClick(Form1->Check1);
+  }
+
+  /// What was announced last on the window of the control.
+  static std::string announced(const forms::Control& control) {
+    std::string words;
+    for (QObject* child : windowOf(control)->children()) {
+      QAccessibleInterface* found = QAccessible::queryAccessibleInterface(child);
+      if (found != nullptr && found->role() == QAccessible::Notification)
+        words = found->text(QAccessible::Name).toStdString();
+    }
+    return words;
   }
 
   template <class Widget>
@@ -119,10 +131,26 @@ TEST_F(Spoken, GroupsAndTheirOptionsHaveNamesThatCanBeSaid) {
   EXPECT_EQ(group->role(), QAccessible::Grouping);
 }
 
-TEST_F(Spoken, TheFocusIsOnTheTextAgainAfterAListing) {
+TEST_F(Spoken, TheFocusIsOnTheTextAgainAfterAListingUnlessTheUserHasMovedIt) {
   Form3->Text1.setText("equalizer=f=19,equalizer=f=20");
   Form3->ListIndividualStrings();
   EXPECT_EQ(windowOf(Form3->Text1)->focusWidget(), Form3->Text1.widget());
+  QTimer::singleShot(0, [] { Form3->Command1(1).setFocus(); });
+  Form3->ListIndividualStrings();
+  EXPECT_EQ(windowOf(Form3->Text1)->focusWidget(), Form3->Command1(1).widget());
+}
+
+TEST_F(Spoken, APresetAndACopyAreAnnouncedOnce) {
+  QAccessible::setActive(true);
+  Form1->Label7(0).setCaption("before");
+  for (const auto& [control, act, words] :
+       std::initializer_list<std::tuple<forms::Control&, std::function<void()>, std::string>>{
+           {Form1->Label7(0), [] { SelectPreset(3); }, "Preset Settings: 3"},
+           {Form1->Command1(8), [] { Form1->Command1_Click(8); }, "Data On Clipboard"},
+           {Form3->Command1(3), [] { Form3->Command1_Click(3); }, "Data On Clipboard"}}) {
+    act();
+    EXPECT_TRUE(support::waitFor([&] { return announced(control) == words; })) << announced(control);
+  }
 }
 
 }  // namespace

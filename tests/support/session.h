@@ -66,7 +66,7 @@ class Session : public testing::Test {
 
   /// Notes `name` in `events` each time before the event's handler runs.
   void record(forms::Event& event, const std::string& name) {
-    event = [this, name, handler = event](int index) {
+    event = [this, name, handler = event.handler()](int index) {
       events += name;
       handler(index);
     };

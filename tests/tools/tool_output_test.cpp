@@ -40,8 +40,8 @@ TEST(ToolOutput, WritesPercentAndGainWithAPointInEveryLocale) {
   for (const char* locale : {"C", "de_DE.UTF-8"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;
     const std::tuple<float, float, const char*> percents[] = {
-        {0.F, 201.F, "00.00"},    {60.F, 201.F, "29.85"}, {120.F, 201.F, "59.70"},
-        {201.F, 201.F, "100.00"}, {1.F, 800.F, "00.13"},  {9.F, 100.F, "09.00"}};
+        {0.F, 201.F, "00.00"}, {60.F, 201.F, "29.85"}, {120.F, 201.F, "59.70"}, {201.F, 201.F, "100.00"},
+        {1.F, 800.F, "00.13"}, {7.F, 224.F, "03.13"},  {9.F, 100.F, "09.00"}};
     for (const auto& [value, max, text] : percents) EXPECT_EQ(percentText(value, max), text) << locale;
     const std::pair<double, const char*> gains[] = {{1, "1"},           {0.6, "0.6"}, {7 / 5.0, "1.4"},
                                                     {-7 / 5.0, "-1.4"}, {0, "0"},     {-2, "-2"}};

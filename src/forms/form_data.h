@@ -98,6 +98,8 @@ struct FormData {
   const char* name = "";
   const char* caption = "";
   int width = 0, height = 0;
+  /// Outer width in twips, frame included, below which the desktop is told to make it no narrower.
+  int leastWidth = 0;
   Color back = kButtonFace;
   Scale scale = Scale::Pixels;
   /// The program holds the size, so that the desktop is told to offer no other.

@@ -21,24 +21,29 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
 
-  const std::string& caption() const { return caption_; }
+  std::string caption() const;
   void setCaption(const std::string& caption);
-  double width() const { return outerWidth_; }
-  double height() const { return outerHeight_; }
+  double width() const;
+  double height() const;
   /// A size of zero or less, and any size while the window is minimised, changes nothing.
-  void setWidth(double twips) { setOuterSize(twips, outerHeight_); }
-  void setHeight(double twips) { setOuterSize(outerWidth_, twips); }
+  void setWidth(double twips);
+  void setHeight(double twips);
   double scaleWidth() const;
   double scaleHeight() const;
   bool minimised() const;
 
-  bool isLoaded() const { return loaded_; }
-  /// Shows the window beside the others, in the middle of its owner or of the screen, or brings it forward.
+  bool isLoaded() const { return forget_ != nullptr; }
+  /// Shows the window, in the middle of its owner or of the screen, or brings it forward.
   void show(const FormWindow* owner = nullptr);
   /// Raises QueryUnload and Unload and takes the window away. Inside an unload it does nothing.
   void unload();
 
+  /// Absolute path of the file whose drop raised FileDrop.
+  const std::string& droppedFile() const { return droppedFile_; }
+
   Event onLoad, onResize, onQueryUnload, onUnload, onTerminate, onMouseMove;
+  /// A local file was dropped on the window, and no other with it. Without a handler the window takes none.
+  Event onFileDrop;
 
   /// The widget that holds what `container` names in the form data.
   Surface& surface(const char* container) const;
@@ -58,14 +63,11 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   void load(std::function<void()> forget);
   static void destroyLater(FormWindow* form);
   void raise(const Event& event);
-  void setOuterSize(double width, double height);
 
-  std::string caption_;
   std::unique_ptr<FormSurface> window_;
-  double outerWidth_ = 0, outerHeight_ = 0;
-  bool loaded_ = false;
+  std::string droppedFile_;
   bool unloading_ = false;
-  std::function<void()> forget_;
+  std::function<void()> forget_;  ///< takes the form from those who refer to it; set while it is loaded
 };
 
 }  // namespace forms

@@ -1,6 +1,7 @@
 #include "windows/form1.h"
 
 #include "core/app_state.h"
+#include "windows/source.h"
 #include "windows/startup.h"
 
 forms::DefaultInstance<MainWindow> Form1;
@@ -13,6 +14,7 @@ MainWindow::MainWindow()
   onUnload = [this](int) { Form_Unload(); };
   onTerminate = [this](int) { Form_Terminate(); };
   onMouseMove = [this](int) { Form_MouseMove(); };
+  onFileDrop = [this](int) { UseSource(droppedFile()); };
 
   Command1.each([this](auto& button) { button.onClick = [this](int i) { Command1_Click(i); }; });
   Slider2.onMouseMove = [this](int) { Slider2_MouseMove(); };

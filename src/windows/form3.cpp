@@ -7,13 +7,6 @@
 
 forms::DefaultInstance<EqStringWindow> Form3;
 
-namespace {
-
-/// Outer width in twips that the four buttons need.
-constexpr double kLeastWidth = 8820;
-
-}  // namespace
-
 EqStringWindow::EqStringWindow() : Form(kForm3Data) {
   onLoad = [this](int) { Form_Load(); };
   onResize = [this](int) { Form_Resize(); };
@@ -27,7 +20,7 @@ void EqStringWindow::Form_Load() {
 }
 
 void EqStringWindow::Form_Resize() {
-  if (width() <= kLeastWidth) setWidth(kLeastWidth);
+  if (width() <= kForm3Data.leastWidth) setWidth(kForm3Data.leastWidth);
   Text1.setWidth(scaleWidth() - 20);
   Text1.setHeight(scaleHeight() - 70);
   for (int i = 0; i < Command1.count(); ++i) Command1(i).setTop(Text1.height() + 20);

@@ -26,6 +26,7 @@ const FormData kForm3Data{
     .caption = "FFmpeg Equalizer String",
     .width = 8580,
     .height = 3810,
+    .leastWidth = 8820,  // The four buttons need it.
     .back = kLightGrey,
     .scale = Scale::Pixels,
     .oneSize = false,

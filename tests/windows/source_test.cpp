@@ -1,6 +1,8 @@
 #include "windows/source.h"
 
+#include <QMimeData>
 #include <QSettings>
+#include <QWindow>
 
 #include "support/session.h"
 #include "tools/command_lines.h"
@@ -20,6 +22,26 @@ TEST_F(Source, OpensTheButtonsAndShowsThePath) {
   EXPECT_EQ(support::readFile(folder.file("ffprobe.arguments")),
             folder.file("ffprobe") + "\n-hide_banner\n-stats\n-i\n" + path + "\n");
   EXPECT_FALSE(QSettings("QtProject").isWritable()) << "the dialog keeps settings in the home";
+}
+
+TEST_F(Source, OneLocalFileIsTakenWhereItIsDroppedOnTheMainWindow) {
+  const std::string path = support::writeText(folder, "a \u00e9.wav", "");
+  const QUrl file = QUrl::fromLocalFile(QString::fromStdString(path));
+  const QUrl other = QUrl::fromLocalFile("/bin/sh");
+  QWindow* window = windowOf(Form1->Text1)->windowHandle();
+  const QPoint sourceLine = Form1->Text1.widget()->mapTo(windowOf(Form1->Text1), QPoint(50, 8));
+  for (const QList<QUrl>& urls :
+       {QList<QUrl>{}, {QUrl("https://a.invalid/a.wav")}, {QUrl("file:///bin")}, {file, other}, {file}}) {
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(sourceLine, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window, &enter);
+    EXPECT_EQ(enter.isAccepted(), urls == QList<QUrl>{file}) << urls.size() << " files";
+    QDropEvent drop(sourceLine, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window, &drop);
+  }
+  EXPECT_EQ(AppState.SourcePathShort, GetShortPath(path));
+  EXPECT_TRUE(Form1->Command1(3).enabled());
 }
 
 TEST_F(Source, ACancelLeavesTheOneBeforeAndAFileThatIsNotThereNone) {

@@ -1,0 +1,54 @@
+// The top-level widget of a form, as the window manager sees it: its size, its place and its state.
+#pragma once
+
+#include <QMargins>
+#include <optional>
+
+#include "forms/surface.h"
+
+namespace forms {
+
+class FormWindow;
+
+/// Keeps the outer size that the program assigns, although the window manager puts its frame around a window
+/// only after that is shown. All in pixels.
+class FormSurface : public Surface {
+ public:
+  FormSurface(FormWindow& form, const FormData& formData);
+
+  /// Frame included, or the frame that is expected.
+  QSize outerSize() const { return size().grownBy(frame_); }
+  /// The outer size that the program has assigned; a width or a height of 0 is left to the form data and the
+  /// user.
+  QSize assigned() const { return assigned_; }
+  void assign(QSize outer) { fit(outer, frame_); }
+
+  /// Gives a window that was never shown its size, and tells the form.
+  void prepare();
+  /// Puts it into the middle of its owner, or of the screen where there is none.
+  void centreOn(const FormSurface* owner);
+  /// Shows the window, in its normal state if it is minimised, in front of the others.
+  void bringForward();
+
+ protected:
+  bool event(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QSize wantedSize() const;
+  void fit(QSize assigned, QMargins frame);
+  void centre();
+  void adjust();
+  void tellForm();
+
+  FormWindow& form_;
+  const FormData& data_;
+  QSize assigned_{0, 0};
+  QMargins frame_;                ///< the frame that the size was asked for with
+  std::optional<QPoint> centre_;  ///< the middle of the window, until it has its frame
+  QSize told_;                    ///< the size that the form knows of, invalid while it is minimised
+};
+
+}  // namespace forms

@@ -24,7 +24,7 @@ void putCaption(QAbstractButton& button, const std::string& caption, int taken) 
 }
 
 /// What Fusion puts before a caption: a circle or a box, and the space behind it.
-constexpr int kIndicator = 20;
+constexpr int kIndicator = 18;
 
 /// Tab stops once in a group: at its choice, or at each button where it has none. Qt leaves the stop to one
 /// button of a group by itself, but only once the focus has been there.

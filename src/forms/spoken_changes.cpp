@@ -118,7 +118,7 @@ void listenToChanges() {
 }
 
 void announce(QWidget& widget) {
-  if (QAccessible::isActive()) changes->announce(&widget);
+  changes->announce(&widget);
 }
 
 }  // namespace forms

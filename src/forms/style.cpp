@@ -84,7 +84,7 @@ class Style : public QProxyStyle {
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     // So that a number stands nearer to its own circle than to the next one.
-    if (metric == PM_RadioButtonLabelSpacing) return 3;
+    if (metric == PM_RadioButtonLabelSpacing || metric == PM_CheckBoxLabelSpacing) return 4;
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
 

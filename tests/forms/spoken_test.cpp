@@ -133,6 +133,7 @@ TEST_F(Spoken, GroupsAndTheirOptionsHaveNamesThatCanBeSaid) {
 
 TEST_F(Spoken, TheFocusIsOnTheTextAgainAfterAListingUnlessTheUserHasMovedIt) {
   Form3->Text1.setText("equalizer=f=19,equalizer=f=20");
+  ASSERT_TRUE(support::waitFor([] { return Form3->Text1.widget()->hasFocus(); }));
   Form3->ListIndividualStrings();
   EXPECT_EQ(windowOf(Form3->Text1)->focusWidget(), Form3->Text1.widget());
   QTimer::singleShot(0, [] { Form3->Command1(1).setFocus(); });
@@ -140,12 +141,12 @@ TEST_F(Spoken, TheFocusIsOnTheTextAgainAfterAListingUnlessTheUserHasMovedIt) {
   EXPECT_EQ(windowOf(Form3->Text1)->focusWidget(), Form3->Command1(1).widget());
 }
 
-TEST_F(Spoken, APresetAndACopyAreAnnouncedOnce) {
-  QAccessible::setActive(true);
+TEST_F(Spoken, WhatIsNewAwayFromTheFocusIsAnnouncedOnce) {
   Form1->Label7(0).setCaption("before");
   for (const auto& [control, act, words] :
        std::initializer_list<std::tuple<forms::Control&, std::function<void()>, std::string>>{
-           {Form1->Label7(0), [] { SelectPreset(3); }, "Preset Settings: 3"},
+           {Form1->Label7(0), [] { SelectPreset(3); },
+            "Preview Audio, Save As, Save Preset, EQ String > Clipboard, Preset Settings: 3"},
            {Form1->Command1(8), [] { Form1->Command1_Click(8); }, "Data On Clipboard"},
            {Form3->Command1(3), [] { Form3->Command1_Click(3); }, "Data On Clipboard"}}) {
     act();

@@ -66,7 +66,7 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
     const QPixmap picture = each->grab();
     for (const auto* label : each->findChildren<QLabel*>()) fits(label, 0);
     for (const auto* button : each->findChildren<QAbstractButton*>())
-      fits(button, button->isCheckable() ? 20 : 8);
+      fits(button, button->isCheckable() ? 18 : 8);
     if (const QString factor = qgetenv("QT_SCALE_FACTOR"); !factor.isEmpty())
       picture.save(each->objectName() + "_at_" + factor + ".png");
   }

@@ -73,7 +73,7 @@ for own in '' /proc/none "$home"; do
   start_installed HOME="$own" TMPDIR="$temporary"
   grep -qx "tessavane: presets will not last: they are in $temporary/tessavane\..*" "$scratch/errors" ||
     fail "what it says with the home '$own'"
-  says 0 $'700\n' stat -c %a "$temporary"/*
+  says 0 $'700\n' stat -c %a "$temporary"/tessavane.*
   [ "$own" != "$home" ] || expect_file 'presets' "$folder/AppPresets.ini" "$temporary"/*/AppPresets.ini
   click Exit
   wait_for nothing_runs

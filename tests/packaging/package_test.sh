@@ -15,8 +15,13 @@ says() {
   expect "what ${*:3} says" "$2status $1" "$(LC_ALL=C.UTF-8 "${@:3}" 2>&1; echo "status $?")"
 }
 
-refused() {
-  says 1 "tessavane: $1"$'\n' "${user[@]}" "${@:2}" "$root/usr/bin/tessavane"
+# start_installed ENVIRONMENT...: up to its window.
+start_installed() {
+  "${user[@]}" "$@" "$root/usr/bin/tessavane" 2>"$scratch/errors" &
+  running=$!
+  disown
+  wait_for window_is_active "Tessavane Graphic Equalizer"
+  main=$window
 }
 
 cpack --config "$program/CPackConfig.cmake" -B "$scratch/package" &>"$scratch/log" || fail "$(cat "$scratch/log")"
@@ -36,14 +41,11 @@ mkdir "$home" "$scratch/few"
 for name in readlink realpath mkdir ln mv; do ln -s "$(command -v $name)" "$scratch/few"; done
 chmod 711 "$scratch"
 [ "$EUID" != 0 ] || chown nobody "$home"
-refused "cannot make the folder /proc/tessavane" XDG_DATA_HOME=/proc
+says 1 $'tessavane: cannot make the folder /proc/tessavane\ntessavane: cannot make a temporary folder\n' \
+  "${user[@]}" XDG_DATA_HOME=/proc TMPDIR=/proc "$root/usr/bin/tessavane"
 
 # The PATH has no ffplay, which keeps nobody from starting. A relative XDG_DATA_HOME does not count.
-"${user[@]}" PATH="$folder:$scratch/few" XDG_DATA_HOME=data "$root/usr/bin/tessavane" 2>"$scratch/errors" &
-running=$!
-disown
-wait_for window_is_active "Tessavane Graphic Equalizer"
-main=$window
+start_installed PATH="$folder:$scratch/few" XDG_DATA_HOME=data
 folder="$home/.local/share/tessavane"
 printf -v links '%s\n' "$scratch"/app/ff{mpeg,probe} "$root/usr/lib/tessavane/tessavane"
 says 0 "$links" readlink "$folder"/*
@@ -62,3 +64,19 @@ close_saving
 says 0 $'1.000000\n' ffprobe -v error -show_entries format=duration -of csv=p=0 "$home/späte Ausgabe.wav"
 click Exit
 wait_for nothing_runs
+
+# Where that folder cannot be used it starts all the same, in one for this run, with the presets that there are.
+temporary="$scratch/temporary"
+mkdir -m 777 "$temporary"
+chmod 500 "$folder"
+for own in '' /proc/none "$home"; do
+  start_installed HOME="$own" TMPDIR="$temporary"
+  grep -qx "tessavane: presets will not last: they are in $temporary/tessavane\..*" "$scratch/errors" ||
+    fail "what it says with the home '$own'"
+  says 0 $'700\n' stat -c %a "$temporary"/tessavane.*
+  [ "$own" != "$home" ] || expect_file 'presets' "$folder/AppPresets.ini" "$temporary"/*/AppPresets.ini
+  click Exit
+  wait_for nothing_runs
+  rm -r "${temporary:?}"/*
+done
+chmod 700 "$folder"

@@ -112,6 +112,10 @@ TEST_F(Render, NeverEmptiesItsSourceByWhateverName) {
     render(folder.file(name));
     EXPECT_TRUE(support::readFile(source) == sound) << name;
   }
+  constexpr std::uintmax_t kLarge = 3'000'000'000;  // Takes no room: all but the sound is a hole.
+  fs::resize_file(source, kLarge);
+  render(folder.file("link.wav"));
+  EXPECT_EQ(fs::file_size(source), kLarge);
 }
 
 TEST_F(Render, AFileThatItReadsOrWritesIsNotEmptiedMeanwhile) {

@@ -1,7 +1,7 @@
 #!/bin/bash
 # The whole work by keys alone, as one does it who hears the program: on X11, or on Wayland where the second
 # argument says so.
-. "$(dirname "$0")/../../docs/desktop.sh"
+. "$(dirname "$0")/driver.sh"
 
 heard() { grep -sqxF "$1" "$scratch/heard"; }
 progress_heard() { grep -sq '^accessible-value 0 progress bar|Progress||[1-9]' "$scratch/heard"; }

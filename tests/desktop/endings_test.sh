@@ -1,7 +1,7 @@
 #!/bin/bash
 # Whatever ends the program in the middle of a render, it is gone at once and the tool finishes the file. In a
 # preview or a probe, where all other input waits for the tool, closing the window does so, too.
-. "$(dirname "$0")/../../docs/desktop.sh"
+. "$(dirname "$0")/driver.sh"
 
 source_file="$scratch/noise.wav"
 target="$folder/out.wav"

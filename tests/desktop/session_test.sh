@@ -1,6 +1,6 @@
 #!/bin/bash
 # One whole session, from the source to the rendered file, by mouse and keyboard.
-. "$(dirname "$0")/../../docs/desktop.sh"
+. "$(dirname "$0")/driver.sh"
 
 source_file="$scratch/my song.wav"
 target="$folder/louder song.wav"

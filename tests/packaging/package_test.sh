@@ -1,7 +1,8 @@
 #!/bin/bash
 # The package made of the build folder given satisfies the validators. Unpacked, its launcher gives an ordinary
 # user a folder, in which the program keeps a preset and renders a file.
-. "$(dirname "$0")/../../docs/desktop.sh"
+. "$(dirname "$0")/../desktop/driver.sh"
+places="$program/bin/places"
 
 root="$scratch/root"
 entry="$root/usr/share/applications/tessavane.desktop"

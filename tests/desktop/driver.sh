@@ -9,7 +9,8 @@ folder="$scratch/app"
 mkdir "$folder"
 started=()
 main=0
-sources=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../src")
+# Built with the tests; it prints where the controls are.
+places="$(dirname "$program")/places"
 trap finish EXIT
 trap 'exit 1' INT TERM HUP
 
@@ -38,11 +39,17 @@ fail() {
   exit 1
 }
 
-# wait_for CONDITION...: runs the command until it succeeds; fails after 60 seconds.
+# wait_for CONDITION...: runs the command until it succeeds; fails when meanwhile no file has grown for a minute.
 wait_for() {
-  local limit=$((SECONDS + 60))
+  local second=$SECONDS last=$SECONDS sizes='' now
   until "$@"; do
-    [ "$SECONDS" -lt "$limit" ] || fail "waited in vain for: $*"
+    if [ "$second" != "$SECONDS" ]; then
+      second=$SECONDS
+      now=$(du -sb "$scratch" "$folder" 2>/dev/null)
+      [ "$now" = "$sizes" ] || last=$SECONDS
+      sizes=$now
+      [ $((SECONDS - last)) -lt 60 ] || fail "waited in vain for: $*"
+    fi
     sleep 0.03
   done
 }
@@ -73,7 +80,7 @@ start_desktop() {
 # Without a window manager.
 start_display() {
   local needed
-  for needed in Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
+  for needed in "$places" Xvfb openbox xdotool xprop xwininfo xclip import ffmpeg ffprobe; do
     command -v "$needed" >/dev/null || fail "$needed is not installed"
   done
   # Reset when its only client so far leaves, the server would throw out whoever is just coming.
@@ -83,6 +90,7 @@ start_display() {
   HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home
   export DISPLAY HOME XDG_RUNTIME_DIR
   mkdir -m 700 "$HOME"
+  "$places" >"$scratch/places" 2>"$scratch/errors" || fail "$places does not tell the places"
 }
 
 # No click inside a window concerns the window manager: one that looks at each first holds the mouse events of
@@ -161,39 +169,29 @@ nothing_runs() {
   [ -z "$(marked)" ]
 }
 
-# find_control NAME: by its caption or spoken name, in the active window or else in the main window. Leaves that
-# window and the control's middle in $place, in pixels of the window's inside, as the form data say. The main
-# window's data have no caption, since that changes. (The accessibility bus knows all places, but not every run
-# has one, and asking it takes ten times as long.)
+# find_control NAME [WINDOW]: by its caption or spoken name, in that window or the active one, or else in the main
+# window, whose title changes. Leaves the window and the control's middle in $place, in pixels of the window's
+# inside. (The accessibility bus knows all places, but not every run has one, and asking it takes ten times as long.)
 find_control() {
-  local active title
-  active=$(xdotool getactivewindow 2>/dev/null) && title=$(xdotool getwindowname "$active" 2>/dev/null) || return
-  read -ra place < <(awk -F '"' -v name="$1" -v active="$active" -v title="$title" -v main="$main" '
-    FNR == 1 { middle = "" }
-    /[{]Kind::/ { # A box comes before what it holds, which begins inside its border.
-      split($3 $5, number, ", *")
-      control = $2 (number[2] == "kSingle" ? "" : "(" number[2] ")")
-      x = left[$4] + number[4]
-      y = top[$4] + number[5]
-      border = /border = true/ ? 15 : 0
-      left[control] = x + border
-      top[control] = y + border
-      sub(/^ /, "", $6)
-      if (($6 == name || $8 == name) && !middle) middle = int((x + number[6] / 2) / 15) " " int((y + number[7] / 2) / 15)
-    }
-    / \.caption = / { if (middle) found[$2] = middle }
-    END {
-      if (title in found) print active, found[title]
-      else if ("" in found) print main, found[""]
-    }' "$sources"/*/form*_data.cpp) || return
-  # This window moves its buttons to its lower edge, wherever that is with the frame that it got.
-  [ "$title" != "FFmpeg Equalizer String" ] || place[2]=$(($(xdotool getwindowgeometry --shell "$active" |
-    sed -n 's/HEIGHT=//p') - 34))
+  local window line title x y
+  window=${2:-$(xdotool getactivewindow 2>/dev/null)} || return
+  title=$(xdotool getwindowname "$window" 2>/dev/null) || return
+  if ! line=$(place_line "$title" "$1"); then
+    window=$main
+    line=$(place_line "Tessavane Graphic Equalizer" "$1") || return
+  fi
+  IFS=$'\t' read -r _ _ x y <<<"$line"
+  [ "$y" -ge 0 ] || y=$((y + $(xdotool getwindowgeometry --shell "$window" | sed -n 's/HEIGHT=//p')))
+  place=("$window" "$x" "$y")
 }
 
-# click NAME: that control, once it is there.
+place_line() {
+  grep -m 1 -F "$1"$'\t'"$2"$'\t' "$scratch/places"
+}
+
+# click NAME [WINDOW]: that control, once it is there.
 click() {
-  wait_for find_control "$1"
+  wait_for find_control "$@"
   click_at "${place[@]}"
 }
 

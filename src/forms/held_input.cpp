@@ -103,6 +103,13 @@ bool isSameTimer(const QEvent& one, const QEvent& other) {
          static_cast<const QTimerEvent&>(one).timerId() == static_cast<const QTimerEvent&>(other).timerId();
 }
 
+/// Of a mouse that moves the last place counts. In front of a double click Qt sends a press that it marks,
+/// and that no widget gets; a copy would lose the mark.
+bool isFirstPart(const QEvent& before, const QEvent& event) {
+  if (event.type() == QEvent::MouseButtonDblClick) return before.type() == QEvent::MouseButtonPress;
+  return event.type() == QEvent::MouseMove && before.type() == QEvent::MouseMove;
+}
+
 std::unique_ptr<QEvent> copyOf(const QEvent& event) {
   if (event.type() != QEvent::Drop) return std::unique_ptr<QEvent>(event.clone());
   return std::make_unique<KeptDrop>(static_cast<const QDropEvent&>(event));
@@ -129,10 +136,8 @@ bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
 void HeldInput::keep(QObject* receiver, const QEvent& event) {
   const auto isRepeated = [&](const Held& held) { return isSameTimer(*held.event, event); };
   if (std::ranges::any_of(held_, isRepeated)) return;
-  // Of a mouse that moves the last place counts.
-  const bool movesOn = event.type() == QEvent::MouseMove && !held_.empty() &&
-                       held_.back().receiver == receiver && held_.back().event->type() == QEvent::MouseMove;
-  if (movesOn) held_.pop_back();
+  if (!held_.empty() && held_.back().receiver == receiver && isFirstPart(*held_.back().event, event))
+    held_.pop_back();
   Held kept{receiver, copyOf(event), {}, {}, {}};
   if (isMouse(event)) {
     const auto& mouse = static_cast<const QMouseEvent&>(event);

@@ -163,15 +163,16 @@ TEST_F(PaintOnlyWait, KeepsAPostedKeyForLater) {
 }
 
 /// The slider would repeat what the press did before it hears of the release.
-TEST_F(PaintOnlyWait, AShortClickInAGrooveMovesOnePage) {
-  const QPoint end =
-      Form1->Slider2.widget()->mapTo(window, Form1->Slider2.widget()->rect().center() * 2 - QPoint(9, 20));
+TEST_F(PaintOnlyWait, EachClickInAGrooveMovesOnePage) {
+  const QWidget* slider = Form1->Slider3.widget();
+  const QPoint end = slider->mapTo(window, QPoint(slider->width() - 9, slider->height() / 2));
   QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, end);
-  EXPECT_EQ(Form1->Slider2.value(), 10);
-  Form1->Slider2.setValue(-10);
   waitWith([&] { QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, end); }, 700);
   forms::Application::doEvents();
-  EXPECT_EQ(Form1->Slider2.value(), -10);
+  EXPECT_EQ(Form1->Slider3.value(), 6);
+  waitWith([&] { QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, end); });
+  forms::Application::doEvents();
+  EXPECT_EQ(Form1->Slider3.value(), 16) << "by a double click";
 }
 
 TEST_F(PaintOnlyWait, KeepsComposedTextAndDropsForLaterInTheirOrder) {

@@ -125,7 +125,7 @@ real_tool() {
 
 # signal_tool STOP|CONT: holds the tool that runs, or lets it go on.
 signal_tool() {
-  marked | grep -vx "$running" | xargs kill -s "$1"
+  marked | grep -vx "$running" | xargs -r kill -s "$1"
 }
 
 # run_program [ENVIRONMENT...]: by a link in $folder, where it then finds its tools.

@@ -56,7 +56,8 @@ for running_tool in ffprobe ffplay; do
 done
 
 real_tool ffprobe
-tool ffmpeg <<<"exec $(command -v ffmpeg) -re \"\$@\""
+mkfifo "$scratch/begin"
+tool ffmpeg <<<": <'$scratch/begin'; exec $(command -v ffmpeg) -re \"\$@\""
 for ending in close Exit TERM HUP server; do
   start_program LC_ALL=de_DE.UTF-8
   open_source "$source_file"
@@ -64,14 +65,16 @@ for ending in close Exit TERM HUP server; do
   wait_for find_control Exit
   exit_button=("${place[@]}") # Looked up now, since the render does not wait for that.
   save_as "$target"
+  [ "$ending" != TERM ] || xdotool windowminimize "$main"
+  : >"$scratch/begin"
   wait_for writes_the_middle
-  if [ "$ending" = TERM ]; then
-    xdotool windowminimize "$main"
-    wait_for minimised_window_counts
-  fi
+  [ "$ending" != TERM ] || wait_for minimised_window_counts
+  # However busy the machine, the render is not over first. A click is served with the next piece of its output.
+  [ "$ending" = Exit ] || signal_tool STOP
   end_program "$ending"
   wait_for program_has_ended
   nothing_runs && fail "the render was over before the program by $ending"
+  signal_tool CONT
   wait_for nothing_runs
   [ -e "$scratch/by hand.wav" ] ||
     ffmpeg -v error -i "$source_file" -af "volume=1,$(chain 1 {,,,,,,,,,,,,,,,,,}-0 5 {,,,,,,,,,,,,}-0)" "$scratch/by hand.wav"

@@ -1,11 +1,5 @@
-#include <unistd.h>
-
 #include <QAbstractButton>
-#include <QAbstractSlider>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMimeData>
-#include <QWindow>
 
 #include "support/session.h"
 
@@ -50,6 +44,15 @@ TEST_F(Controls, ArrowKeysWalkThePresetsInOrderAndStopAtTheEnds) {
   EXPECT_EQ(events, "123456543210");
 }
 
+TEST_F(Controls, AKeyHeldDownClicksOnce) {
+  Form1->Command1(6).onClick = [this](int) { events += "c"; };
+  for (const bool repeated : {false, true, true}) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, {}, "\r", repeated);
+    QApplication::sendEvent(Form1->Command1(6).widget(), &key);
+  }
+  EXPECT_EQ(events, "c");
+}
+
 TEST_F(Controls, ShowTextAsItIs) {
   const std::string nasty = "<b>&x.wav & <%y%>";
   Form1->Label7(4).setCaption(nasty);
@@ -75,144 +78,6 @@ TEST_F(Controls, AWindowComesBackFreshAfterAnUnloadOfWhichItsHandlersHearOnce) {
   EXPECT_EQ(events, "QU");
   EXPECT_FALSE(Form3.isLoaded());
   EXPECT_EQ(Form3->Text1.text(), "") << "a reference loads a new one";
-}
-
-/// A wait for a tool, in which windows paint and nothing else happens.
-class PaintOnlyWait : public support::Session {
- protected:
-  PaintOnlyWait() { EXPECT_EQ(pipe(ends_), 0); }
-  ~PaintOnlyWait() override {
-    close(ends_[0]);
-    close(ends_[1]);
-  }
-  /// Waits for output that does not come, and acts meanwhile.
-  void waitWith(const std::function<void()>& act, int milliseconds = 60) {
-    QTimer::singleShot(1, act);
-    forms::Application::waitPainting(ends_[0], milliseconds);
-  }
-  QWidget* window = windowOf(Form1->Label6);
-
- private:
-  int ends_[2];
-};
-
-TEST_F(PaintOnlyWait, Paints) {
-  struct : QObject {
-    bool painted = false;
-    bool eventFilter(QObject*, QEvent* event) override {
-      painted |= event->type() == QEvent::Paint;
-      return false;
-    }
-  } filter;
-  forms::Application::doEvents();
-  window->installEventFilter(&filter);
-  waitWith([this] { window->update(); });
-  EXPECT_TRUE(filter.painted);
-}
-
-TEST_F(PaintOnlyWait, KeepsTicksForLaterWhichDoNotNest) {
-  Form1->Timer3.onTick = [this](int) {
-    events += "(";
-    QTest::qWait(30);
-    events += ")";
-  };
-  Form1->Timer3.setEnabled(true);
-  waitWith([] {});
-  EXPECT_EQ(events, "");
-  forms::Application::doEvents();
-  EXPECT_TRUE(support::waitFor([this] { return events.size() >= 4; }));
-  EXPECT_TRUE(events.starts_with("()()")) << events;
-}
-
-TEST_F(PaintOnlyWait, KeepsTheClosingOfAWindowForLater) {
-  Form3->show(&*Form1);
-  waitWith([] { windowOf(Form3->Text1)->close(); });
-  EXPECT_TRUE(Form3.isLoaded());
-  forms::Application::doEvents();
-  EXPECT_FALSE(Form3.isLoaded());
-}
-
-TEST_F(PaintOnlyWait, KeepsMouseAndKeysForLaterInTheirOrder) {
-  record(Form1->Check1.onClick, "C");
-  record(Form1->Option1(0).onClick, "P");
-  const auto clickInWindow = [this](const forms::Control& control) {
-    const QPoint place = control.widget()->mapTo(window, QPoint(5, 5));
-    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
-  };
-  waitWith([&] {
-    clickInWindow(Form1->Check1);
-    clickInWindow(Form1->Option1(0));
-    QTest::keyClick(window->windowHandle(), Qt::Key_Space);
-    clickInWindow(Form1->Check1);
-  });
-  EXPECT_EQ(events, "");
-  clickInWindow(Form1->Option1(0));
-  EXPECT_TRUE(support::waitFor([this] { return events == "CPPCP"; })) << events;
-}
-
-/// Qt posts a key again after the accessibility bus has seen it.
-TEST_F(PaintOnlyWait, KeepsAPostedKeyForLater) {
-  Form1->Slider1(4).setFocus();
-  waitWith([this] {
-    auto* key = new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-    QCoreApplication::postEvent(window->windowHandle(), key);
-  });
-  EXPECT_EQ(Form1->Slider1(4).value(), 0);
-  forms::Application::doEvents();
-  EXPECT_EQ(Form1->Slider1(4).value(), 1);
-}
-
-/// The slider would repeat what the press did before it hears of the release.
-TEST_F(PaintOnlyWait, EachClickInAGrooveMovesOnePage) {
-  const QWidget* slider = Form1->Slider3.widget();
-  const QPoint end = slider->mapTo(window, QPoint(slider->width() - 9, slider->height() / 2));
-  QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, end);
-  waitWith([&] { QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, end); }, 700);
-  forms::Application::doEvents();
-  EXPECT_EQ(Form1->Slider3.value(), 6);
-  waitWith([&] { QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, end); });
-  forms::Application::doEvents();
-  EXPECT_EQ(Form1->Slider3.value(), 16) << "by a double click";
-}
-
-TEST_F(PaintOnlyWait, KeepsComposedTextAndDropsForLaterInTheirOrder) {
-  Form3->show(&*Form1);
-  QWindow* strings = windowOf(Form3->Text1)->windowHandle();
-  ASSERT_TRUE(support::waitFor([] { return Form3->Text1.widget()->hasFocus(); }));
-  QMimeData dropped;
-  dropped.setText("drop");
-  QDropEvent drop(QPointF(500, 20), Qt::CopyAction | Qt::MoveAction, &dropped, Qt::LeftButton, {});
-  QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton, {});
-  QApplication::sendEvent(strings, &enter);
-  waitWith([&] {
-    for (const Qt::Key key : {Qt::Key_C, Qt::Key_A, Qt::Key_F}) QTest::keyClick(strings, key);
-    QInputMethodEvent composed;
-    composed.setCommitString("\u00e9");
-    QApplication::sendEvent(Form3->Text1.widget(), &composed);
-    QTest::keyClick(strings, Qt::Key_Space);
-    QApplication::sendEvent(strings, &drop);
-    dropped.setText("changed");
-  });
-  EXPECT_EQ(Form3->Text1.text(), "");
-  EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
-  forms::Application::doEvents();
-  EXPECT_EQ(Form3->Text1.text(), "caf\u00e9 drop");
-}
-
-/// What a screen reader does is no input that the desktop would hold back.
-TEST_F(PaintOnlyWait, KeepsStepsAndPressedButtonsForLaterAndOfAGroupTheLastOne) {
-  waitWith([] {
-    for (const forms::Control* pressed : std::initializer_list<forms::Control*>{
-             &Form1->Option2(1), &Form1->Option2(0), &Form1->Option2(1), &Form1->Check1})
-      static_cast<QAbstractButton*>(pressed->widget())->click();
-    static_cast<QAbstractSlider*>(Form1->Slider3.widget())->setValue(7);
-  });
-  EXPECT_EQ(AppState.RangeIndex, 0);
-  EXPECT_EQ(AppState.BandWidth, 1);
-  forms::Application::doEvents();
-  EXPECT_EQ(AppState.RangeIndex, 1);
-  EXPECT_EQ(AppState.BandWidth, 7);
-  EXPECT_EQ(Form1->Label7(3).caption(), "Indicators: Off");
 }
 
 TEST_F(Controls, AnUnknownIndexIsAFaultThatChangesNothing) {

@@ -48,6 +48,9 @@ TEST_F(Presets, RaiseTheEventsOfWhatChangesAndNoOthers) {
   EXPECT_EQ(events, changes);
   click(Form1->Option1(4));
   EXPECT_EQ(events, changes) << "the same preset again";
+  Form1->Command1_Click(8);
+  click(Form1->Option1(4));
+  EXPECT_EQ(Form1->Command1(8).caption(), "EQ String > Clipboard") << "after a preset that changes nothing";
   EXPECT_EQ(Form1->Label7(7).caption(), "Selected Frequency Value:  0db");
 }
 
@@ -75,6 +78,8 @@ TEST_F(Presets, NoPresetWalksAllBandsBackIn33TicksAndIn33MoreWhereTheFirstHasMov
   click(Form1->Option1(0));
   EXPECT_EQ(Form1->Slider1(0).value(), 1) << "what a preset that is not stored sets";
   Form1->Timer3_Timer();
+  click(Form1->Option1(5));
+  EXPECT_TRUE(Form1->Timer3.enabled()) << "a numbered preset stops the way back";
   click(Form1->Option1(0));  // Counts from the beginning.
   for (int tick = 1; tick <= 66; ++tick) {
     EXPECT_TRUE(Form1->Timer3.enabled()) << "before tick " << tick;

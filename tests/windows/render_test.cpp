@@ -1,3 +1,5 @@
+#include <QWindow>
+
 #include "support/session.h"
 #include "tools/render_target.h"
 
@@ -53,6 +55,10 @@ class Render : public support::Session {
 TEST_F(Render, TellsTheProgressOneUpdateLateAndReadsEachPieceByItself) {
   fakeRender("exit");
   saveAs(target);
+  EXPECT_EQ(shownFilter, "WAV Files (*.wav)");
+  EXPECT_EQ(std::pair(Form2->width(), Form2->height()), std::pair(6900.0, 3420.0));
+  EXPECT_EQ(windowOf(Form2->PBar)->windowHandle()->transientParent(),
+            windowOf(Form1->Label6)->windowHandle());
   EXPECT_EQ(Form2->Label1(2).caption(), "Progress: 00% Completed");
   EXPECT_EQ(Form2->PBar.max(), 201);
   const std::tuple<const char*, double, std::string> rows[] = {

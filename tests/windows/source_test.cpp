@@ -1,5 +1,6 @@
 #include "windows/source.h"
 
+#include <QListView>
 #include <QMimeData>
 #include <QSettings>
 #include <QWindow>
@@ -58,6 +59,32 @@ TEST_F(Source, ACancelLeavesTheOneBeforeAndAFileThatIsNotThereNone) {
   EXPECT_EQ(Form1->Text1.text(), "");
 }
 
+/// Answers with a folder first, as one who walks to the file, and then closes the list of completions.
+TEST_F(Source, TheDialogShowsAllNamesOpensFoldersAndGivesTheFocusBack) {
+  std::filesystem::create_directory(folder.file("sub"));
+  const std::string path = support::writeText(folder, "sub/no point", "");
+  const auto seen = [] {
+    auto* list = support::openDialog()->findChild<QListView*>("listView");
+    return list->model()->rowCount(list->rootIndex()) == 1;
+  };
+  once([] { return support::openDialog() != nullptr; },
+       [this, seen] {
+         support::answer(*support::openDialog(), "sub");
+         ASSERT_NE(support::openDialog(), nullptr) << "a folder is taken for a file";
+         EXPECT_TRUE(support::waitFor(seen)) << "a name without a point is hidden";
+         auto* name = support::openDialog()->findChild<QLineEdit*>("fileNameEdit");
+         QTest::keyClicks(name, "no");
+         EXPECT_TRUE(support::waitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+         QTest::keyClicks(name, " point");
+         QTest::keyClick(name, Qt::Key_Return);
+       });
+  click(Form1->Command1(0));
+  EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "completions stay open";
+  EXPECT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); }))
+      << "the focus is lost";
+}
+
 TEST_F(Source, IsMeasuredInWholeSecondsWhateverItsTags) {
   std::filesystem::create_symlink("/usr/bin/ffprobe", folder.file("ffprobe"));
   const std::string path = folder.file("a.flac");
@@ -76,8 +103,13 @@ TEST_F(Source, ASecondOneChosenInsideTheFirstProbeWins) {
       *) echo > "$0.go"; echo ' Duration: 00:00:02';;
       esac)");
   const std::string second = support::writeText(folder, "second.wav", "");
-  once([] { return Form1->objDOS.get() != nullptr; }, [this, second] { openSource(second); });
-  openSource(support::writeText(folder, "first.wav", ""));
+  const std::string first = support::writeText(folder, "first.wav", "");
+  once([] { return Form1->objDOS.get() != nullptr; },
+       [this, first, second] {
+         EXPECT_EQ(Form1->Text1.text(), GetShortPath(first)) << "not shown before the probe is over";
+         openSource(second);
+       });
+  openSource(first);
   EXPECT_EQ(Form1->Text1.text(), GetShortPath(second));
   EXPECT_EQ(AppState.SourceSeconds, "2");
 }

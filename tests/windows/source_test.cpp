@@ -59,8 +59,7 @@ TEST_F(Source, ACancelLeavesTheOneBeforeAndAFileThatIsNotThereNone) {
   EXPECT_EQ(Form1->Text1.text(), "");
 }
 
-/// Answers with a folder first, as one who walks to the file, and then closes the list of completions.
-TEST_F(Source, TheDialogShowsAllNamesOpensFoldersAndGivesTheFocusBack) {
+TEST_F(Source, TheDialogShowsAllNamesOpensFoldersAndClosesItsCompletions) {
   std::filesystem::create_directory(folder.file("sub"));
   const std::string path = support::writeText(folder, "sub/no point", "");
   const auto seen = [] {

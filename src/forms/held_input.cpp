@@ -98,11 +98,6 @@ bool isMouse(const QEvent& event) {
          event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::MouseButtonDblClick;
 }
 
-bool isSameTimer(const QEvent& one, const QEvent& other) {
-  return one.type() == QEvent::Timer && other.type() == QEvent::Timer &&
-         static_cast<const QTimerEvent&>(one).timerId() == static_cast<const QTimerEvent&>(other).timerId();
-}
-
 /// Of a mouse that moves the last place counts. In front of a double click Qt sends a press that it marks,
 /// and that no widget gets; a copy would lose the mark.
 bool isFirstPart(const QEvent& before, const QEvent& event) {
@@ -134,8 +129,12 @@ bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void HeldInput::keep(QObject* receiver, const QEvent& event) {
-  const auto isRepeated = [&](const Held& held) { return isSameTimer(*held.event, event); };
-  if (std::ranges::any_of(held_, isRepeated)) return;
+  // A widget's timer comes again. It must not come behind a release that is yet to stop it: Qt may have given
+  // its number to the timer of a later press by then.
+  const auto isReleaseOrTimer = [](const Held& held) {
+    return held.event->type() == QEvent::MouseButtonRelease || held.event->type() == QEvent::Timer;
+  };
+  if (event.type() == QEvent::Timer && std::ranges::any_of(held_, isReleaseOrTimer)) return;
   if (!held_.empty() && held_.back().receiver == receiver && isFirstPart(*held_.back().event, event))
     held_.pop_back();
   Held kept{receiver, copyOf(event), {}, {}, {}};

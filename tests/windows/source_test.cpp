@@ -80,8 +80,6 @@ TEST_F(Source, TheDialogShowsAllNamesOpensFoldersAndClosesItsCompletions) {
   click(Form1->Command1(0));
   EXPECT_EQ(Form1->Text1.text(), GetShortPath(path));
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "completions stay open";
-  EXPECT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); }))
-      << "the focus is lost";
 }
 
 TEST_F(Source, IsMeasuredInWholeSecondsWhateverItsTags) {

@@ -39,6 +39,8 @@ TEST_F(StringWindow, StandsOverItsOwnerWithEveryChainAndEmptyWhenItIsOpenedAnew)
 }
 
 TEST_F(StringWindow, MovesItsControlsWithItsSize) {
+  EXPECT_EQ(Form3->scaleHeight(), 254) << "as it opens";
+  EXPECT_EQ(box().window()->minimumWidth(), 584) << "with a frame of 4 pixels";
   const std::tuple<int, int, QList<double>> rows[] = {
       {572, 254, {564, 184, 204, 451}}, {900, 500, {880, 430, 450, 767}}, {900, 50, {880, 430, 450, 767}}};
   for (const auto& [width, height, expected] : rows) {

@@ -5,20 +5,18 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
-#include <QFontDatabase>
 #include <QIcon>
-#include <QImageReader>
 #include <QSettings>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
+#include <thread>
 #include <utility>
 #include <vector>
 
 #include "forms/held_input.h"
-#include "forms/spoken.h"
-#include "forms/spoken_changes.h"
+#include "forms/screen_reader.h"
 #include "forms/style.h"
 
 namespace forms {
@@ -28,44 +26,17 @@ HeldInput* heldInput = nullptr;
 bool ended = false;
 
 struct Deferred {
-  const Event* event = nullptr;
+  const Event* event;
   std::function<void()> action;
 };
 
 std::vector<Deferred> deferred;
 
-class Wait {
- public:
-  Wait() { heldInput->hold(); }
-  ~Wait() {
-    heldInput->release();
-    for (const Deferred& due : std::exchange(deferred, {})) {
-      // The next wait can begin before the event loop gets here.
-      const auto again = [due] { Application::runOrDefer(*due.event, due.action); };
-      QMetaObject::invokeMethod(qApp, again, Qt::QueuedConnection);
-    }
-  }
-  Wait(const Wait&) = delete;
-  Wait& operator=(const Wait&) = delete;
-};
-
-void readIcon() {
-  QIcon icon;
-  for (const char* size : {"16x16", "32x32", "48x48"}) {
-    QImageReader picture(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size), "png");
-    // Qt would load all its picture plug-ins and ask each, although the kind is named.
-    picture.setAutoDetectImageFormat(false);
-    icon.addPixmap(QPixmap::fromImageReader(&picture));
-  }
-  QApplication::setWindowIcon(icon);
-}
-
 }  // namespace
 
 Application::Application() {
-  // Themes of desktops, which Qt would load where QT_QPA_PLATFORMTHEME asks for them, are not made for a
-  // program that keeps a look of its own: under qt6ct a file dialog can crash. As an argument the choice is
-  // not inherited by child processes, as a changed environment would be.
+  // No theme of the desktop, also where QT_QPA_PLATFORMTHEME names one: under qt6ct a file dialog can crash.
+  // Child processes would inherit a changed environment; an argument they do not.
   static char name[] = "tessavane", option[] = "-platformtheme", theme[] = "generic";
   static char* arguments[] = {name, option, theme, nullptr};
   static int count = 3;
@@ -75,21 +46,21 @@ Application::Application() {
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
-  // to do with the first text; and Qt makes its own list of the fonts while the first controls are made.
+  // to do with the first text.
   std::thread fontconfig([] { FcInit(); });
   new QApplication(count, arguments);
   fontconfig.join();
-  fonts_ = std::thread([] { QFontDatabase::families(); });
   heldInput = new HeldInput(qApp);
-  installSpokenWidgets();
-  listenToChanges();
+  serveScreenReaders();
   applyStyle();
-  readIcon();
+  QIcon icon;
+  for (const char* size : {"16x16", "32x32", "48x48"})
+    icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size));
+  QApplication::setWindowIcon(icon);
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
 Application::~Application() {
-  fonts_.join();
   delete qApp;
 }
 
@@ -103,7 +74,7 @@ void Application::doEvents() {
 }
 
 void Application::waitPainting(int descriptor, int milliseconds) {
-  const Wait wait;
+  heldInput->hold();
   bool over = false;
   QEventLoop loop;
   const auto stop = [&] {
@@ -120,6 +91,12 @@ void Application::waitPainting(int descriptor, int milliseconds) {
   // Where the display is lost, Qt ends the process; from 6.11 on it calls `QCoreApplication::exit` instead,
   // which makes every event loop return, this one and any begun later, but not the run that waits here.
   if (!over) std::_Exit(1);
+  heldInput->release();
+  for (const Deferred& next : std::exchange(deferred, {})) {
+    // The next wait can begin before the event loop gets here.
+    const auto run = [next] { runOrDefer(*next.event, next.action); };
+    QMetaObject::invokeMethod(qApp, run, Qt::QueuedConnection);
+  }
 }
 
 bool Application::isDeferring() {
@@ -138,6 +115,10 @@ void Application::end() {
   // a clipboard manager.
   if (qApp != nullptr && QApplication::clipboard()->ownsClipboard()) delete qApp;
   std::_Exit(0);
+}
+
+void Clipboard::setText(const std::string& text) {
+  QApplication::clipboard()->setText(toQt(text));
 }
 
 }  // namespace forms

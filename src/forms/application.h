@@ -1,8 +1,8 @@
-// The process as the desktop sees it: the event loop, what serves it in between, and its end.
+// The process as the desktop sees it: the event loop, what serves it in between, its end, and the clipboard.
 #pragma once
 
 #include <functional>
-#include <thread>
+#include <string>
 
 #include "forms/event.h"
 
@@ -36,9 +36,12 @@ class Application {
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.
   [[noreturn]] static void end();
+};
 
- private:
-  std::thread fonts_;
+/// The desktop's clipboard, for plain text in UTF-8, which takes the place of all that was there.
+class Clipboard {
+ public:
+  static void setText(const std::string& text);
 };
 
 }  // namespace forms

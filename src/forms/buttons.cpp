@@ -12,22 +12,18 @@
 namespace forms {
 namespace {
 
-/// An ampersand would underline the next letter and make it a key.
-QString literal(const std::string& caption) {
-  return toQt(caption).replace("&", "&&");
-}
-
 /// Puts a caption in letters that leave `taken` pixels of the button's width to the rest of it.
 void putCaption(QAbstractButton& button, const std::string& caption, int taken) {
-  button.setText(literal(caption));
+  // A single ampersand would underline the next letter and make it a key.
+  button.setText(toQt(caption).replace("&", "&&"));
   button.setFont(narrowed(button.font(), toQt(caption), button.width() - taken));
 }
 
 /// What Fusion puts before a caption: a circle or a box, and the space behind it.
 constexpr int kIndicator = 18;
 
-/// Tab stops once in a group: at its choice, or at each button where it has none. Qt leaves the stop to one
-/// button of a group by itself, but only once the focus has been there.
+/// Tab stops once in a group: at its choice, or at each button where it has none. Qt sees to that only once
+/// the focus has been there.
 void makeTabStops(const QButtonGroup& group) {
   const auto* choice = group.checkedButton();
   for (QAbstractButton* button : group.buttons())
@@ -40,10 +36,7 @@ class RadioButton : public QRadioButton {
   void keyPressEvent(QKeyEvent* event) override {
     const bool forward = event->key() == Qt::Key_Down || event->key() == Qt::Key_Right;
     const bool back = event->key() == Qt::Key_Up || event->key() == Qt::Key_Left;
-    if (!forward && !back) {
-      QRadioButton::keyPressEvent(event);
-      return;
-    }
+    if (!forward && !back) return QRadioButton::keyPressEvent(event);
     const QList<QAbstractButton*> all = group()->buttons();
     const qsizetype next = all.indexOf(this) + (forward ? 1 : -1);
     if (next < 0 || next >= all.size()) return;
@@ -56,11 +49,9 @@ class RadioButton : public QRadioButton {
 class PushButton : public QPushButton {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-      if (!event->isAutoRepeat()) click();
-      return;
-    }
-    QPushButton::keyPressEvent(event);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter) return QPushButton::keyPressEvent(event);
+    if (!event->isAutoRepeat()) click();
   }
 };
 
@@ -86,16 +77,18 @@ OptionButton::OptionButton(FormWindow& form, const ControlData& data) : Control(
   auto* button = static_cast<QRadioButton*>(widget());
   putCaption(*button, data.text, kIndicator);
   button->setAutoFillBackground(true);
-  if (*data.spokenName == '\0') button->setAccessibleName(data.text);
-  button->setChecked(data.look.selected);
+  button->setChecked(data.properties.selected);
   // Without a group, Qt would take the buttons of inner containers for choices of the same one.
   QButtonGroup& group = container().options();
   group.addButton(button);
   makeTabStops(group);
-  QObject::connect(button, &QRadioButton::toggled, button, [&group] { makeTabStops(group); });
-  QObject::connect(button, &QRadioButton::toggled, button, [this](bool checked) { fresh_ = checked; });
-  QObject::connect(button, &QRadioButton::clicked, button, [this, again = data.look.clicksAgain] {
-    if (std::exchange(fresh_, false) || again) raise(onClick);
+  QObject::connect(button, &QRadioButton::toggled, button, [this, &group](bool checked) {
+    isNewChoice_ = checked;
+    makeTabStops(group);
+  });
+  const bool canBeChosenAgain = data.properties.canBeChosenAgain;
+  QObject::connect(button, &QRadioButton::clicked, button, [this, canBeChosenAgain] {
+    if (std::exchange(isNewChoice_, false) || canBeChosenAgain) raise(onClick);
   });
 }
 
@@ -108,7 +101,7 @@ void OptionButton::setValue(bool value) {
   auto* button = static_cast<QRadioButton*>(widget());
   if (value) {
     button->setChecked(true);
-    fresh_ = false;
+    isNewChoice_ = false;
     raise(onClick);
     return;
   }
@@ -121,8 +114,7 @@ void OptionButton::setValue(bool value) {
 CheckBox::CheckBox(FormWindow& form, const ControlData& data) : Control(form, data, new QCheckBox) {
   auto* box = static_cast<QCheckBox*>(widget());
   putCaption(*box, data.text, kIndicator);
-  if (*data.spokenName == '\0') box->setAccessibleName(data.text);
-  box->setChecked(data.look.selected);
+  box->setChecked(data.properties.selected);
   QObject::connect(box, &QCheckBox::clicked, box, [this] { raise(onClick); });
 }
 

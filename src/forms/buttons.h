@@ -16,12 +16,13 @@ class CommandButton : public Control {
   Event onClick;
 
  private:
+  bool mayRun(const Event& /*event*/) const override { return enabled(); }
+
   std::string caption_;
 };
 
-/// One choice of those in the same container. A click by hand or assigning True raises Click where the button
-/// was not selected; where the form data say so, a click on the selected one raises it as well. Assigning
-/// False empties the group and raises nothing.
+/// One choice of those in the same container. Raises Click when it is selected, by hand or by assigning True;
+/// where the form data say so, also when it is clicked once more. Assigning False empties the group.
 class OptionButton : public Control {
  public:
   OptionButton(FormWindow& form, const ControlData& data);
@@ -31,13 +32,12 @@ class OptionButton : public Control {
 
   Event onClick;
 
- protected:
-  /// Of those that were chosen one after the other in a paint-only wait, the last one counts.
-  bool stillRuns() const override { return value() && enabled(); }
-
  private:
-  /// Selected by the click whose Click is about to come.
-  bool fresh_ = false;
+  /// Of those that were chosen one after the other in a paint-only wait, the last one counts.
+  bool mayRun(const Event& event) const override { return &event != &onClick || value(); }
+
+  /// The click that is served has selected it.
+  bool isNewChoice_ = false;
 };
 
 /// A box that is checked (1) or not (0).

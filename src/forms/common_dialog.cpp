@@ -17,8 +17,7 @@
 namespace forms {
 namespace {
 
-/// A file dialog that takes the typed name literally: no quotes, no list of names, no home folder, no
-/// question.
+/// Takes the typed name literally: no quotes, no list of names, no home folder, no question.
 class NameDialog : public QFileDialog {
  public:
   explicit NameDialog(QWidget* parent) : QFileDialog(parent) {
@@ -32,7 +31,7 @@ class NameDialog : public QFileDialog {
       list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
 
-  const QString& chosen() const { return chosen_; }
+  QString chosen;
 
   /// Every name matches "*.*", a name without a point too.
   void widenFilter() {
@@ -50,7 +49,7 @@ class NameDialog : public QFileDialog {
       line->clear();
       return;
     }
-    chosen_ = path;
+    chosen = path;
     QDialog::accept();
   }
 
@@ -59,9 +58,6 @@ class NameDialog : public QFileDialog {
     if (QWidget* names = QApplication::activePopupWidget()) names->close();
     QFileDialog::done(result);
   }
-
- private:
-  QString chosen_;
 };
 
 QStringList nameFilters(const QString& pairs) {
@@ -88,7 +84,7 @@ void CommonDialog::show(bool save) {
   dialog.widenFilter();
   // Handlers that run while the dialog is open can set the name.
   const std::string asked = fileName_;
-  fileName_ = dialog.exec() == QDialog::Accepted ? fromQt(dialog.chosen()) : asked;
+  fileName_ = dialog.exec() == QDialog::Accepted ? fromQt(dialog.chosen) : asked;
   if (before) before->activateWindow();
 }
 

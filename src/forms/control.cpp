@@ -9,24 +9,22 @@
 #include <utility>
 
 #include "forms/form_window.h"
-#include "forms/spoken_changes.h"
+#include "forms/screen_reader.h"
 #include "forms/style.h"
 #include "forms/surface.h"
 
 namespace forms {
 
 void Item::raise(const Event& event) const {
-  form_.raise(event, [this, &event](bool deferred) {
-    if (!deferred || stillRuns()) event(std::max(index_, 0));
+  form_.raise(event, [this, &event] {
+    if (mayRun(event)) event(std::max(index_, 0));
   });
 }
 
 /// Lets a control own all mouse events over its widgets: none goes on to its container.
-class MouseFilter : public QObject {
+class ControlFilter : public QObject {
  public:
-  /// With `consumes` the widgets get no mouse event of their own.
-  MouseFilter(Control& control, bool consumes)
-      : QObject(control.widget()), control_(control), consumes_(consumes) {}
+  explicit ControlFilter(Control& control) : QObject(control.widget()), control_(control) {}
 
   void watch(QWidget* widget) {
     widget->setMouseTracking(true);
@@ -40,42 +38,47 @@ class MouseFilter : public QObject {
         return control_.showToolTip(static_cast<QHelpEvent*>(event)->globalPos());
       case QEvent::MouseMove:
         control_.raise(control_.onMouseMove);
-        return consumes_;
+        break;
       case QEvent::MouseButtonRelease:
         control_.raise(control_.onMouseUp);
-        return consumes_;
+        break;
+      case QEvent::Show:
+      case QEvent::FocusIn:
+      case QEvent::KeyPress:
+      case QEvent::InputMethod:
       case QEvent::MouseButtonPress:
-      case QEvent::MouseButtonDblClick:
-        return consumes_;
+      case QEvent::ContextMenu:
+      case QEvent::Drop:
+        control_.prepare();
+        break;
       default:
-        return false;
+        break;
     }
+    return false;
   }
 
  private:
   Control& control_;
-  bool consumes_;
 };
 
 Control::Control(FormWindow& form, const ControlData& data, QWidget* widget)
     : Item(form, data.index),
       widget_(widget),
       container_(form.surface(data.container)),
-      back_(data.look.back),
-      fore_(data.look.fore) {
-  auto* filter = new MouseFilter(*this, data.kind == Kind::Label || data.kind == Kind::PictureBox);
+      back_(data.properties.back),
+      fore_(data.properties.fore) {
+  auto* filter = new ControlFilter(*this);
   filter->watch(widget);
   if (auto* scrolled = qobject_cast<QAbstractScrollArea*>(widget)) filter->watch(scrolled->viewport());
   const double scale = container_.unitsPerPixel() / kTwipsPerPixel;
   widget->setObjectName(data.index == kSingle ? QString(data.name)
                                               : QString("%1(%2)").arg(data.name).arg(data.index));
-  if (data.look.fontSize != Look{}.fontSize || data.look.bold)
-    widget->setFont(fontOf(data.look.fontSize, data.look.bold));
+  if (data.properties.fontSize != Properties{}.fontSize || data.properties.bold)
+    widget->setFont(fontOf(data.properties.fontSize, data.properties.bold));
   widget->setParent(&container_);
-  if (*data.spokenName != '\0') widget->setAccessibleName(data.spokenName);
+  widget->setAccessibleName(*data.spokenName != '\0' ? data.spokenName : data.text);
   place(data.left * scale, data.top * scale, data.width * scale, data.height * scale);
-  setVisible(!data.look.hidden);
-  if (data.look.outOfSight) widget->hide();
+  setVisible(!data.properties.hidden);
   applyColors();
 }
 
@@ -99,8 +102,11 @@ void Control::setSize(double width, double height) {
   refit();
 }
 
+bool Control::visible() const {
+  return !widget_->isHidden();
+}
+
 void Control::setVisible(bool visible) {
-  visible_ = visible;
   widget_->setVisible(visible);
 }
 
@@ -120,23 +126,18 @@ void Control::setEnabled(bool enabled) {
 }
 
 void Control::setForeColor(Color color) {
-  if (fore_ == color) return;
-  fore_ = color;
-  applyColors();
+  if (std::exchange(fore_, color) != color) applyColors();
 }
 
 void Control::setBackColor(Color color) {
-  if (back_ == color) return;
-  back_ = color;
-  applyColors();
+  if (std::exchange(back_, color) != color) applyColors();
 }
 
 void Control::applyColors() {
   QPalette palette = widget_->palette();
   const QColor back = toQt(back_);
   const QColor fore = toQt(fore_);
-  const bool takesText = widget_->inherits("QLineEdit") || widget_->inherits("QPlainTextEdit");
-  const auto ground = takesText ? QPalette::Base : widget_->backgroundRole();
+  const auto ground = widget_->backgroundRole();
   // Qt hands a palette on to all inner widgets and repaints them: what is inherited anyway is left alone.
   if (palette.color(ground) == back && palette.color(QPalette::Active, QPalette::WindowText) == fore) return;
   palette.setColor(ground, back);
@@ -148,14 +149,8 @@ void Control::applyColors() {
 }
 
 void Control::setFontSize(double points) {
-  const QFont font = fontOf(points, widget_->font().bold());
-  if (widget_->font().pixelSize() == font.pixelSize()) return;
-  widget_->setFont(font);
+  widget_->setFont(fontOf(points, widget_->font().bold()));
   refit();
-}
-
-void Control::setToolTipText(const std::string& text) {
-  toolTip_ = text;
 }
 
 /// Qt gives a screen reader the tip of a widget for its description; the one here is not told to Qt.

@@ -23,15 +23,12 @@ class Item {
   Item& operator=(const Item&) = delete;
 
   int index() const { return index_; }
-  virtual bool enabled() const { return true; }
 
  protected:
-  /// Runs the handler while the form stays alive; nothing happens on a form that is not loaded. In a
-  /// paint-only wait it is deferred, and dropped where the item is not to run it any more when its turn
-  /// comes.
+  /// Runs the handler, after the wait in a paint-only wait; nothing happens on a form that is not loaded.
   void raise(const Event& event) const;
-  /// What is asked of an event that was deferred.
-  virtual bool stillRuns() const { return enabled(); }
+  /// Asked just before the handler runs: false where things have changed since the event.
+  virtual bool mayRun(const Event& /*event*/) const { return true; }
   FormWindow& form() const { return form_; }
 
  private:
@@ -52,9 +49,9 @@ class Control : public Item {
   void setWidth(double width) { setSize(width, height_); }
   void setHeight(double height) { setSize(width_, height); }
 
-  bool visible() const { return visible_; }
+  bool visible() const;
   void setVisible(bool visible);
-  bool enabled() const override;
+  bool enabled() const;
   void setEnabled(bool enabled);
   Color foreColor() const { return fore_; }
   void setForeColor(Color color);
@@ -63,7 +60,7 @@ class Control : public Item {
   /// Size of the text in points, at 72 points to 96 pixels.
   void setFontSize(double points);
   const std::string& toolTipText() const { return toolTip_; }
-  void setToolTipText(const std::string& text);
+  void setToolTipText(const std::string& text) { toolTip_ = text; }
   void setFocus();
   /// Has a screen reader say the control's caption, wherever the focus is.
   void announce();
@@ -81,11 +78,13 @@ class Control : public Item {
 
   /// Called when size, text or font have changed.
   virtual void refit() {}
+  /// Called before the widget is shown or touched by the user.
+  virtual void prepare() {}
   void place(double left, double top, double width, double height);
   Surface& container() const { return container_; }
 
  private:
-  friend class MouseFilter;
+  friend class ControlFilter;
   void setSize(double width, double height);
   void applyColors();
   bool showToolTip(const QPoint& place);
@@ -93,7 +92,6 @@ class Control : public Item {
   QWidget* widget_;
   Surface& container_;
   double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
-  bool visible_ = true;
   bool keepsFocus_ = false;
   Color back_, fore_;
   std::string toolTip_;

@@ -12,10 +12,6 @@ class Event {
   /// Gets the index of the control in its array, 0 for a control that is in none and for a window.
   using Handler = std::function<void(int index)>;
 
-  Event() = default;
-  Event(const Event&) = delete;
-  Event& operator=(const Event&) = delete;
-
   Event& operator=(Handler handler) {
     handler_ = std::move(handler);
     return *this;

@@ -1,9 +1,7 @@
 #include "forms/form.h"
 
-#include <cassert>
 #include <string_view>
 
-#include "forms/controls.h"
 #include "forms/surface.h"
 
 namespace forms {
@@ -17,42 +15,24 @@ QWidget* widgetOf(const Item& item) {
   return static_cast<const Control&>(item).widget();
 }
 
-std::unique_ptr<Control> makeSlider(Form& form, const FormData& data, const ControlData& row) {
-  const auto named = [&](const SliderData& slider) { return std::string_view(slider.name) == row.name; };
-  const auto values = std::ranges::find_if(data.sliders, named);
-  assert(values != data.sliders.end());
-  return std::make_unique<Slider>(form, row, *values);
+template <class T>
+std::unique_ptr<Control> make(Form& form, const ControlData& row) {
+  return std::make_unique<T>(form, row);
 }
 
-std::unique_ptr<Control> makeControl(Form& form, const FormData& data, const ControlData& row) {
-  switch (row.kind) {
-    case Kind::PictureBox:
-      return std::make_unique<PictureBox>(form, row);
-    case Kind::Label:
-      return std::make_unique<Label>(form, row);
-    case Kind::Shape:
-      return std::make_unique<Shape>(form, row);
-    case Kind::TextBox:
-    case Kind::MultiLineTextBox:
-      return std::make_unique<TextBox>(form, row);
-    case Kind::CommandButton:
-      return std::make_unique<CommandButton>(form, row);
-    case Kind::OptionButton:
-      return std::make_unique<OptionButton>(form, row);
-    case Kind::CheckBox:
-      return std::make_unique<CheckBox>(form, row);
-    case Kind::Slider:
-      return makeSlider(form, data, row);
-    case Kind::ProgressBar:
-      return std::make_unique<ProgressBar>(form, row);
-  }
-  return nullptr;
+/// In the order of `Kind`.
+constexpr std::unique_ptr<Control> (*kMakers[])(Form&, const ControlData&) = {
+    make<PictureBox>,    make<Label>,        make<Shape>,    make<TextBox>, make<TextBox>,
+    make<CommandButton>, make<OptionButton>, make<CheckBox>, make<Slider>,  make<ProgressBar>};
+
+std::unique_ptr<Control> makeControl(Form& form, const ControlData& row) {
+  return kMakers[static_cast<int>(row.kind)](form, row);
 }
 
 }  // namespace
 
 Form::Form(const FormData& data) : FormWindow(data), data_(data) {
-  for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, data, row));
+  for (const ControlData& row : data.controls) put(row.name, row.index, makeControl(*this, row));
   for (const LineData& row : data.lines) put(row.name, row.index, std::make_unique<Line>(*this, row));
   for (const TimerData& row : data.timers) put(row.name, kSingle, std::make_unique<Timer>(*this, row));
   if (data.commonDialog != nullptr) put(data.commonDialog, kSingle, std::make_unique<CommonDialog>(*this));
@@ -87,12 +67,13 @@ std::unique_ptr<Item> Form::makeLikeFirst(const char* name, int index, const cha
   if (const auto first = std::ranges::find_if(data_.controls, isFirst); first != data_.controls.end()) {
     ControlData row = *first;
     row.index = index;
-    row.look.hidden = true;
+    row.properties.hidden = true;
     if (container != nullptr) row.container = container;
-    return makeControl(*this, data_, row);
+    return makeControl(*this, row);
   }
   LineData row = *std::ranges::find_if(data_.lines, isFirst);
   row.index = index;
+  row.visible = false;
   if (container != nullptr) row.container = container;
   return std::make_unique<Line>(*this, row);
 }
@@ -102,18 +83,10 @@ void Form::loadMember(const char* name, int index) {
   const Items& members = items_[name];
   const auto* made = dynamic_cast<const Control*>(members[slot(index)].get());
   if (made == nullptr) return;
-  // Qt puts a new widget at the end of the tab order; the keyboard is to find it right behind its neighbour.
+  // Qt puts a new widget at the end of the tab order; the keyboard is to find it right after its neighbour.
   std::size_t before = slot(index) - 1;
   while (members[before] == nullptr) --before;
   QWidget::setTabOrder(widgetOf(*members[before]), made->widget());
-}
-
-/// On the form itself, where it gets into no group of real option buttons.
-Item& Form::spare(const char* name) {
-  assert(false && "an array has no member of this index");
-  std::unique_ptr<Item>& made = spares_[name];
-  if (!made) made = makeLikeFirst(name, kSingle, "");
-  return *made;
 }
 
 }  // namespace forms

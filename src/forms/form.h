@@ -2,13 +2,20 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "forms/control.h"
+#include "forms/buttons.h"
+#include "forms/common_dialog.h"
+#include "forms/displays.h"
 #include "forms/form_window.h"
+#include "forms/line.h"
+#include "forms/slider.h"
+#include "forms/text_box.h"
+#include "forms/timer.h"
 
 namespace forms {
 
@@ -32,16 +39,14 @@ class Form : public FormWindow {
   void makeTabOrder();
   std::unique_ptr<Item> makeLikeFirst(const char* name, int index, const char* container);
   void loadMember(const char* name, int index);
-  Item& spare(const char* name);
 
   const FormData& data_;
   /// Members of each array, or the one control, by name. Gaps are null.
   std::map<std::string, Items, std::less<>> items_;
-  std::map<std::string, std::unique_ptr<Item>, std::less<>> spares_;
 };
 
 /// The members of one name on one form. An index without a member is a fault of the program; where assertions
-/// are off, it gives a spare member that nobody sees or hears.
+/// are off, it gives a spare member that nobody sees.
 template <class T>
 class ControlArray {
  public:
@@ -49,9 +54,10 @@ class ControlArray {
 
   T& operator()(int index) {
     if (Item* member = find(index)) return static_cast<T&>(*member);
-    T& spare = static_cast<T&>(form_.spare(name_));
-    spare.setVisible(false);
-    return spare;
+    assert(false && "an array has no member of this index");
+    // On the form itself, where it gets into no group of real option buttons.
+    if (!spare_) spare_ = form_.makeLikeFirst(name_, kSingle, "");
+    return static_cast<T&>(*spare_);
   }
 
   /// Number of members, gaps not counted.
@@ -62,9 +68,7 @@ class ControlArray {
   /// Makes a new member with the stored properties of member 0, hidden. Nothing happens where the index is
   /// taken or negative.
   void load(int index) {
-    if (index < 0 || find(index) != nullptr) return;
-    form_.loadMember(name_, index);
-    (*this)(index).setVisible(false);
+    if (index >= 0 && find(index) == nullptr) form_.loadMember(name_, index);
   }
 
   /// Does the same with each member, in rising order.
@@ -84,6 +88,34 @@ class ControlArray {
   Form& form_;
   const char* name_;
   Form::Items& items_;
+  std::unique_ptr<Item> spare_;
+};
+
+/// The window comes into being, hidden, the first time anything refers to it, and again after an unload. A
+/// window that was unloaded while one of its handlers runs lives until that handler returns.
+template <class W>
+class DefaultInstance {
+ public:
+  W* operator->() { return &*loaded(); }
+  W& operator*() { return *loaded(); }
+
+  bool isLoaded() const { return form_ != nullptr; }
+  void load() { loaded(); }
+  void unload() {
+    if (const auto form = form_) form->unload();
+  }
+
+ private:
+  const std::shared_ptr<W>& loaded() {
+    if (!form_) {
+      const std::shared_ptr<W> form(new W, &FormWindow::destroyLater);
+      form_ = form;
+      form->load([this] { form_.reset(); });
+    }
+    return form_;
+  }
+
+  std::shared_ptr<W> form_;
 };
 
 }  // namespace forms

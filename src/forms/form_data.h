@@ -1,11 +1,18 @@
 // The stored description of a window, as tables: what stands on it before any code runs.
 #pragma once
 
+#include <cstdint>
 #include <span>
 
-#include "forms/color.h"
-
 namespace forms {
+
+/// A colour number 0xBBGGRR, red in the low byte, or one of the desktop's own colours below.
+using Color = std::uint32_t;
+
+inline constexpr Color kButtonFace = 0x8000000F;  ///< also of every surface without a colour of its own
+inline constexpr Color kButtonText = 0x80000012;
+inline constexpr Color kWindowBackground = 0x80000005;  ///< of boxes that take text
+inline constexpr Color kWindowText = 0x80000008;
 
 /// Twips to one logical pixel in all form data and in the outer size of windows.
 inline constexpr int kTwipsPerPixel = 15;
@@ -31,8 +38,8 @@ enum class Kind {
   ProgressBar
 };
 
-/// What a control looks like where it differs from the common look.
-struct Look {
+/// What a control has beside its kind, place and text, where it differs from the usual.
+struct Properties {
   Color back = kButtonFace;
   Color fore = kButtonText;
   Alignment alignment = Alignment::Left;
@@ -44,9 +51,20 @@ struct Look {
   bool border = false;     ///< picture boxes: a thin line around
   Scale scale = Scale::Pixels;
   bool hidden = false;
-  bool outOfSight = false;  ///< visible by its own flag, but where neither the eye nor the keyboard gets to
   bool selected = false;
-  bool clicksAgain = false;  ///< option buttons: a click by hand counts while it is selected, too
+  bool canBeChosenAgain = false;  ///< option buttons: a click by hand on the selected one counts
+};
+
+/// What a slider has beside the properties of all controls. Values rise from left to right, or from top to
+/// bottom. A screen reader hears `value * spokenFactor`, with `unit` in the description.
+struct SliderData {
+  bool vertical;
+  int min, max;
+  int largeChange, smallChange;
+  int tickFrequency;
+  int value;
+  double spokenFactor;
+  const char* unit;
 };
 
 /// One control that is a widget. Geometry in twips inside its container ("" is the form, "Picture1(0)" a
@@ -59,31 +77,21 @@ struct ControlData {
   int left = 0, top = 0, width = 0, height = 0;
   int tab = 0;
   const char* text = "";
-  Look look = {};
+  Properties properties = {};
   const char* spokenName = "";  ///< for screen readers, where the text alone does not tell it
+  const SliderData* slider = nullptr;
 };
 
-/// One line on the surface of its container, in twips; `borderWidth` in pixels.
+/// One line on the surface of its container. The ends are in twips in the form data and in the container's
+/// scale from then on, `borderWidth` is in pixels.
 struct LineData {
   const char* name;
   int index;
   const char* container;
-  int x1, y1, x2, y2;
+  double x1, y1, x2, y2;
   Color color;
   int borderWidth;
-};
-
-/// What a slider has beside its row among the controls. Values rise from left to right, or from top to
-/// bottom. A screen reader hears `value * spokenFactor`, with `unit` in the description.
-struct SliderData {
-  const char* name;
-  bool vertical;
-  int min, max;
-  int largeChange, smallChange;
-  int tickFrequency;
-  int value;
-  double spokenFactor;
-  const char* unit;
+  bool visible = true;
 };
 
 /// One timer; `interval` in milliseconds, 0 for one that never ticks.
@@ -98,21 +106,17 @@ struct FormData {
   const char* name = "";
   const char* caption = "";
   int width = 0, height = 0;
-  /// Outer width in twips, frame included, below which the desktop is told to make it no narrower.
+  /// The desktop is told to make the window no narrower: outer width in twips, frame included.
   int leastWidth = 0;
   Color back = kButtonFace;
   Scale scale = Scale::Pixels;
-  /// The program holds the size, so that the desktop is told to offer no other.
-  bool oneSize = false;
+  bool oneSize = false;  ///< the program holds the size, and the desktop is told to offer no other
   bool minimiseButton = false;
   bool maximiseButton = false;
-  /// The window belongs to another and has no entry of its own in the task bar.
-  bool owned = false;
-  /// Closing the window ends the program, even while a tool runs.
-  bool endsProgram = false;
+  bool owned = false;        ///< belongs to another window, without an entry of its own in the task bar
+  bool endsProgram = false;  ///< closing the window ends the program, even while a tool runs
   std::span<const ControlData> controls;
   std::span<const LineData> lines = {};
-  std::span<const SliderData> sliders = {};
   std::span<const TimerData> timers = {};
   const char* commonDialog = nullptr;
 };

@@ -1,17 +1,12 @@
 #include "forms/form_surface.h"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QDropEvent>
-#include <QFileInfo>
-#include <QMimeData>
+#include <QEvent>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
 
-#include "forms/form_window.h"
 #include "forms/style.h"
 
 namespace forms {
@@ -25,18 +20,9 @@ QMargins frameOf(const QWidget& widget) {
   return widget.windowHandle() != nullptr ? widget.windowHandle()->frameMargins() : QMargins();
 }
 
-/// The local file that is dragged, empty where it is none or one of several. A copy is taken of it, so that
-/// nobody moves it away.
-QString fileIn(const QDropEvent& drag) {
-  const QList<QUrl> urls = drag.mimeData()->urls();
-  const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
-  return drag.possibleActions() & Qt::CopyAction && QFileInfo(path).isFile() ? path : QString();
-}
-
 }  // namespace
 
-FormSurface::FormSurface(FormWindow& form, const FormData& formData)
-    : Surface(false, formData.scale), form_(form), data_(formData) {
+FormSurface::FormSurface(const FormData& formData) : Surface(false, formData.scale), data_(formData) {
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint | (formData.owned ? Qt::Dialog : Qt::Window);
   if (formData.minimiseButton) flags |= Qt::WindowMinimizeButtonHint;
@@ -44,8 +30,6 @@ FormSurface::FormSurface(FormWindow& form, const FormData& formData)
   setWindowFlags(flags);
   setObjectName(formData.name);
   setWindowTitle(formData.caption);
-  setMouseTracking(true);
-  setAcceptDrops(true);
   QPalette colors = palette();
   colors.setColor(QPalette::Window, toQt(formData.back));
   setPalette(colors);
@@ -102,10 +86,8 @@ void FormSurface::centre() {
 }
 
 void FormSurface::bringForward() {
-  if (isMinimized())
-    showNormal();
-  else
-    show();
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
   QWidget::raise();
   activateWindow();
 }
@@ -126,10 +108,23 @@ void FormSurface::adjust() {
   lastFrame = own;
 }
 
+/// The window manager, which alone can have made it so, puts the window back to where it was.
+void FormSurface::leaveFullScreen() {
+  // Managers that are asked while still busy with the full screen (awesome, i3) know no way back.
+  constexpr int kMilliseconds = 100;
+  QTimer::singleShot(kMilliseconds, this, [this] { setWindowState(windowState() & ~Qt::WindowFullScreen); });
+}
+
+void FormSurface::followWindow() {
+  if (!isVisible()) return;
+  adjust();
+  tellForm();
+}
+
 /// Tells the form of a new size or state.
 void FormSurface::tellForm() {
   const QSize now = isMinimized() ? QSize() : size();
-  if (std::exchange(told_, now) != now) form_.raise(form_.onResize);
+  if (std::exchange(told_, now) != now) sizeChanged();
 }
 
 bool FormSurface::event(QEvent* event) {
@@ -137,54 +132,20 @@ bool FormSurface::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) setAttribute(Qt::WA_KeyboardFocusChange);
   const bool handled = Surface::event(event);
   switch (event->type()) {
-    case QEvent::MouseMove:
-      form_.raise(form_.onMouseMove);
-      break;
     case QEvent::WindowStateChange:
-      if (data_.oneSize && isFullScreen()) {
-        // The window manager, which alone can have made it so, puts it back to where it was. One that is
-        // asked while it is still busy with the full screen (awesome, i3) knows no way back.
-        constexpr int kMilliseconds = 100;
-        QTimer::singleShot(kMilliseconds, this,
-                           [this] { setWindowState(windowState() & ~Qt::WindowFullScreen); });
-      }
-      [[fallthrough]];
+      if (data_.oneSize && isFullScreen()) leaveFullScreen();
+      followWindow();
+      break;
     case QEvent::Show:
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::WindowActivate:
-      if (!isVisible()) break;
-      adjust();
-      tellForm();
+      followWindow();
       break;
     default:
       break;
   }
   return handled;
-}
-
-void FormSurface::dragEnterEvent(QDragEnterEvent* event) {
-  // Qt lets drops through to windows that a dialog keeps all other input from.
-  const bool isOpen = form_.onFileDrop.handler() && QApplication::activeModalWidget() == nullptr;
-  if (!isOpen || fileIn(*event).isEmpty()) return event->ignore();
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-}
-
-void FormSurface::dropEvent(QDropEvent* event) {
-  const std::string path = fromQt(fileIn(*event));
-  if (path.empty()) return;
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  form_.droppedFile_ = path;
-  form_.raise(form_.onFileDrop);
-}
-
-void FormSurface::closeEvent(QCloseEvent* event) {
-  event->ignore();
-  // In a wait too: the program's end never returns, so that nothing nests.
-  if (data_.endsProgram) return form_.unload();
-  form_.raise(form_.onUnload, [this](bool /*deferred*/) { form_.unload(); });
 }
 
 }  // namespace forms

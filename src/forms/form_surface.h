@@ -8,13 +8,11 @@
 
 namespace forms {
 
-class FormWindow;
-
-/// Keeps the outer size that the program assigns, although the window manager puts its frame around a window
-/// only after that is shown. All in pixels.
+/// Keeps the outer size that the program assigns, although a window gets its frame only once it is shown. All
+/// in pixels.
 class FormSurface : public Surface {
  public:
-  FormSurface(FormWindow& form, const FormData& formData);
+  explicit FormSurface(const FormData& formData);
 
   /// Frame included, or the frame that is expected.
   QSize outerSize() const { return size().grownBy(frame_); }
@@ -32,18 +30,18 @@ class FormSurface : public Surface {
 
  protected:
   bool event(QEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
-  void closeEvent(QCloseEvent* event) override;
+  /// Called with a new size inside the frame, and when the window is minimised or back.
+  virtual void sizeChanged() = 0;
 
  private:
   QSize wantedSize() const;
   void fit(QSize assigned, QMargins frame);
   void centre();
   void adjust();
+  void leaveFullScreen();
+  void followWindow();
   void tellForm();
 
-  FormWindow& form_;
   const FormData& data_;
   QSize assigned_{0, 0};
   QMargins frame_;                ///< the frame that the size was asked for with

@@ -1,6 +1,10 @@
 #include "forms/form_window.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
 #include <utility>
 
 #include "forms/application.h"
@@ -8,15 +12,67 @@
 #include "forms/style.h"
 
 namespace forms {
+namespace {
 
-FormWindow::FormWindow(const FormData& data) : window_(std::make_unique<FormSurface>(*this, data)) {}
+/// The local file that is dragged, empty where it is none or one of several. A copy is taken of it, so that
+/// nobody moves it away.
+QString fileIn(const QDropEvent& drag) {
+  const QList<QUrl> urls = drag.mimeData()->urls();
+  const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
+  return drag.possibleActions() & Qt::CopyAction && QFileInfo(path).isFile() ? path : QString();
+}
+
+}  // namespace
+
+/// Raises the form's events.
+class FormWindow::Window : public FormSurface {
+ public:
+  Window(FormWindow& form, const FormData& formData)
+      : FormSurface(formData), form_(form), endsProgram_(formData.endsProgram) {
+    setMouseTracking(true);
+    setAcceptDrops(true);
+  }
+
+ protected:
+  void sizeChanged() override { form_.raise(form_.onResize); }
+  void mouseMoveEvent(QMouseEvent* /*event*/) override { form_.raise(form_.onMouseMove); }
+
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    // Qt lets drops through to windows that a dialog keeps all other input from.
+    const bool isOpen = form_.onFileDrop.handler() && QApplication::activeModalWidget() == nullptr;
+    if (!isOpen || fileIn(*event).isEmpty()) return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+  }
+
+  void dropEvent(QDropEvent* event) override {
+    const std::string path = fromQt(fileIn(*event));
+    if (path.empty()) return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    form_.droppedFile_ = path;
+    form_.raise(form_.onFileDrop);
+  }
+
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    // In a wait too: the program's end never returns, so that nothing nests.
+    if (endsProgram_) return form_.unload();
+    form_.raise(form_.onUnload, [this] { form_.unload(); });
+  }
+
+ private:
+  FormWindow& form_;
+  bool endsProgram_;
+};
+
+FormWindow::FormWindow(const FormData& data) : window_(std::make_unique<Window>(*this, data)) {}
 
 FormWindow::~FormWindow() = default;
 
 Surface& FormWindow::surface(const char* container) const {
   if (*container == '\0') return *window_;
-  if (auto* found = dynamic_cast<Surface*>(window_->findChild<QWidget*>(container))) return *found;
-  return *window_;
+  return dynamic_cast<Surface&>(*window_->findChild<QWidget*>(container));
 }
 
 std::string FormWindow::caption() const {
@@ -55,18 +111,15 @@ bool FormWindow::minimised() const {
   return window_->isMinimized();
 }
 
-void FormWindow::raise(const Event& event, const std::function<void(bool deferred)>& handler) {
-  if (!isLoaded()) return;
-  const auto alive = shared_from_this();
-  if (!Application::isDeferring()) return handler(false);
+void FormWindow::raise(const Event& event, const std::function<void()>& handler) {
   Application::runOrDefer(event, [form = weak_from_this(), handler] {
-    const auto later = form.lock();
-    if (later && later->isLoaded()) handler(true);
+    const auto alive = form.lock();
+    if (alive && alive->isLoaded()) handler();
   });
 }
 
 void FormWindow::raise(const Event& event) {
-  raise(event, [&event](bool /*deferred*/) { event(); });
+  raise(event, [&event] { event(); });
 }
 
 void FormWindow::load(std::function<void()> forget) {
@@ -98,9 +151,9 @@ void FormWindow::unload() {
 
 void FormWindow::destroyLater(FormWindow* form) {
   // The last reference can go inside an event of one of the form's own widgets.
-  if (QCoreApplication::instance() == nullptr) return;
-  const auto destroy = [form] { delete form; };
-  QMetaObject::invokeMethod(QCoreApplication::instance(), destroy, Qt::QueuedConnection);
+  if (qApp != nullptr)
+    QMetaObject::invokeMethod(
+        qApp, [form] { delete form; }, Qt::QueuedConnection);
 }
 
 }  // namespace forms

@@ -50,13 +50,13 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
 
   /// Runs `handler`, which serves `event`, while the form is loaded, and keeps the form alive meanwhile.
   /// In a paint-only wait it is deferred, once for each event. All events of all controls come by here.
-  void raise(const Event& event, const std::function<void(bool deferred)>& handler);
+  void raise(const Event& event, const std::function<void()>& handler);
 
  protected:
   explicit FormWindow(const FormData& data);
 
  private:
-  friend class FormSurface;
+  class Window;
   template <class W>
   friend class DefaultInstance;
 

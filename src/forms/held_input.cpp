@@ -10,7 +10,7 @@
 namespace forms {
 namespace {
 
-enum class Receiver { Window, Widget, Any };
+enum class Receiver { Window, Widget };
 
 enum class Fate {
   Kept,    ///< served after the wait, in its turn
@@ -38,40 +38,28 @@ constexpr Rule kRules[] = {
     {QEvent::KeyRelease, Receiver::Window, Fate::Kept},
     {QEvent::Drop, Receiver::Window, Fate::Kept},
     // Composed text: dead keys and input methods.
-    {QEvent::InputMethod, Receiver::Any, Fate::Kept},
+    {QEvent::InputMethod, Receiver::Widget, Fate::Kept},
     // A widget's timer repeats what a pressed mouse does to it, and the release may be among what is kept.
     {QEvent::Timer, Receiver::Widget, Fate::Kept},
     // A key that is taken here goes to its window next, and not to a shortcut.
-    {QEvent::ShortcutOverride, Receiver::Any, Fate::Taken},
+    {QEvent::ShortcutOverride, Receiver::Widget, Fate::Taken},
     // The mouse may have gone on from where the tip would show.
     {QEvent::ToolTip, Receiver::Widget, Fate::Taken},
-    // Qt turns into mouse events what no window takes.
+    // Qt turns into mouse events what no window takes. None takes those of a tablet anyway.
     {QEvent::TouchBegin, Receiver::Window, Fate::Refused},
     {QEvent::TouchUpdate, Receiver::Window, Fate::Refused},
     {QEvent::TouchEnd, Receiver::Window, Fate::Refused},
-    {QEvent::TabletPress, Receiver::Window, Fate::Refused},
-    {QEvent::TabletMove, Receiver::Window, Fate::Refused},
-    {QEvent::TabletRelease, Receiver::Window, Fate::Refused},
-    {QEvent::NativeGesture, Receiver::Window, Fate::Refused},
 };
 
 bool isReceiver(const QObject& object, Receiver receiver) {
-  switch (receiver) {
-    case Receiver::Window:
-      return object.isWindowType();
-    case Receiver::Widget:
-      return object.isWidgetType();
-    case Receiver::Any:
-      return true;
-  }
-  return false;
+  return receiver == Receiver::Window ? object.isWindowType() : object.isWidgetType();
 }
 
 /// A mouse event as it was, at the places that it had. Taking the base over keeps the mark of what a person
 /// did, without which Qt gives no focus by a click.
-class MouseEventAgain : public QMouseEvent {
+class RestoredMouseEvent : public QMouseEvent {
  public:
-  MouseEventAgain(const QMouseEvent& event, QPointF place, QPointF scenePlace, QPointF globalPlace)
+  RestoredMouseEvent(const QMouseEvent& event, QPointF place, QPointF scenePlace, QPointF globalPlace)
       : QMouseEvent(event.type(), place, scenePlace, globalPlace, event.button(), event.buttons(),
                     event.modifiers(), event.pointingDevice()) {
     const quint64 time = event.timestamp();
@@ -92,11 +80,6 @@ class KeptDrop : public QDropEvent {
  private:
   QMimeData data_;
 };
-
-bool isMouse(const QEvent& event) {
-  return event.type() == QEvent::MouseMove || event.type() == QEvent::MouseButtonPress ||
-         event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::MouseButtonDblClick;
-}
 
 /// Of a mouse that moves the last place counts. In front of a double click Qt sends a press that it marks,
 /// and that no widget gets; a copy would lose the mark.
@@ -138,11 +121,10 @@ void HeldInput::keep(QObject* receiver, const QEvent& event) {
   if (!held_.empty() && held_.back().receiver == receiver && isFirstPart(*held_.back().event, event))
     held_.pop_back();
   Held kept{receiver, copyOf(event), {}, {}, {}};
-  if (isMouse(event)) {
-    const auto& mouse = static_cast<const QMouseEvent&>(event);
-    kept.place = mouse.position();
-    kept.scenePlace = mouse.scenePosition();
-    kept.globalPlace = mouse.globalPosition();
+  if (const auto* mouse = dynamic_cast<const QMouseEvent*>(&event)) {
+    kept.place = mouse->position();
+    kept.scenePlace = mouse->scenePosition();
+    kept.globalPlace = mouse->globalPosition();
   }
   held_.push_back(std::move(kept));
 }
@@ -154,7 +136,7 @@ void HeldInput::release() {
 
 void HeldInput::serveNext() {
   if (holding_ || held_.empty()) return;
-  const Held next = std::move(held_.front());
+  Held next = std::move(held_.front());
   held_.pop_front();
   release();
   // What was typed before may have moved the focus on.
@@ -165,19 +147,11 @@ void HeldInput::serveNext() {
   const QWindow* modal = QGuiApplication::modalWindow();
   const auto* window = qobject_cast<QWindow*>(receiver);
   if (window != nullptr && modal != nullptr && modal != window && !modal->isAncestorOf(window)) return;
-  if (isMouse(*next.event)) {
-    MouseEventAgain again(static_cast<const QMouseEvent&>(*next.event), next.place, next.scenePlace,
-                          next.globalPlace);
-    serve(receiver, again);
-  } else {
-    serve(receiver, *next.event);
-  }
-}
-
-void HeldInput::serve(QObject* receiver, QEvent& event) {
-  served_ = &event;
+  if (const auto* mouse = dynamic_cast<const QMouseEvent*>(next.event.get()))
+    next.event = std::make_unique<RestoredMouseEvent>(*mouse, next.place, next.scenePlace, next.globalPlace);
+  served_ = next.event.get();
   // `sendEvent` would take the mark off that a person's input bears.
-  qApp->notify(receiver, &event);
+  qApp->notify(receiver, next.event.get());
 }
 
 }  // namespace forms

@@ -11,20 +11,19 @@ class QEvent;
 
 namespace forms {
 
-/// Stands between Qt and all windows. Qt could leave input unserved by itself; but then the closing of a
-/// window stays unserved too, which Qt takes for input, and a key does not, once a screen reader runs: the
-/// accessibility bus sees it first, and its answer posts the key like any other event.
+/// Stands between Qt and all windows. Qt can leave input unserved by itself, but takes the closing of a
+/// window for input, and lets keys through once a screen reader runs: the accessibility bus sees them first,
+/// and Qt posts them when it answers.
 class HeldInput : public QObject {
  public:
-  /// Lets all input through until `hold`.
   explicit HeldInput(QObject* application);
 
   /// Keeps input from here on.
   void hold() { holding_ = true; }
   bool isHolding() const { return holding_; }
 
-  /// Serves what was kept, in its order, one event at each turn of the event loop: serving one can open a
-  /// dialog that needs those that follow. Input that comes meanwhile waits behind it.
+  /// Serves what was kept, in its order, one event at each turn of the event loop: one can open a dialog that
+  /// needs the next. Input that comes meanwhile waits its turn.
   void release();
   /// True while a next turn of the event loop has something to serve.
   bool isServing() const { return !holding_ && !held_.empty(); }
@@ -41,7 +40,6 @@ class HeldInput : public QObject {
 
   void keep(QObject* receiver, const QEvent& event);
   void serveNext();
-  void serve(QObject* receiver, QEvent& event);
 
   bool holding_ = false;
   std::deque<Held> held_;

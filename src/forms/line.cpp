@@ -4,18 +4,12 @@
 #include "forms/surface.h"
 
 namespace forms {
-namespace {
-
-DrawnLine scaled(const LineData& data, double scale) {
-  return {data.x1 * scale, data.y1 * scale, data.x2 * scale, data.y2 * scale, data.color, data.borderWidth};
-}
-
-}  // namespace
 
 Line::Line(FormWindow& form, const LineData& data)
-    : Item(form, data.index),
-      surface_(form.surface(data.container)),
-      line_(surface_.addLine(scaled(data, surface_.unitsPerPixel() / kTwipsPerPixel))) {}
+    : Item(form, data.index), surface_(form.surface(data.container)), line_(surface_.addLine(data)) {
+  const double scale = surface_.unitsPerPixel() / kTwipsPerPixel;
+  for (double* end : {&line_.x1, &line_.y1, &line_.x2, &line_.y2}) *end *= scale;
+}
 
 void Line::repaint() {
   surface_.updateLine(line_);

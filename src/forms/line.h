@@ -2,7 +2,6 @@
 #pragma once
 
 #include "forms/control.h"
-#include "forms/drawn_line.h"
 
 namespace forms {
 
@@ -21,8 +20,8 @@ class Line : public Item {
   void setY2(double value) { set(line_.y2, value); }
   Color borderColor() const { return line_.color; }
   void setBorderColor(Color color) { set(line_.color, color); }
-  int borderWidth() const { return line_.width; }
-  void setBorderWidth(int pixels) { set(line_.width, pixels); }
+  int borderWidth() const { return line_.borderWidth; }
+  void setBorderWidth(int pixels) { set(line_.borderWidth, pixels); }
   bool visible() const { return line_.visible; }
   void setVisible(bool visible) { set(line_.visible, visible); }
 
@@ -37,7 +36,7 @@ class Line : public Item {
   void repaint();
 
   Surface& surface_;
-  DrawnLine& line_;
+  LineData& line_;
 };
 
 }  // namespace forms

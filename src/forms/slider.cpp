@@ -1,45 +1,37 @@
 #include "forms/slider.h"
 
+#include <QApplication>
 #include <QSlider>
-#include <QWheelEvent>
 
-#include "forms/spoken.h"
+#include "forms/screen_reader.h"
 #include "forms/style.h"
 
 namespace forms {
 namespace {
-
-/// One notch of a wheel, in eighths of a degree (Qt's measure).
-constexpr int kNotch = 120;
 
 class SliderWidget : public QSlider {
  public:
   explicit SliderWidget(const SliderData& values) : QSlider(values.vertical ? Qt::Vertical : Qt::Horizontal) {
     setInvertedAppearance(values.vertical);
     setInvertedControls(values.vertical);
-    setSpokenFactor(*this, values.spokenFactor);
+    setProperty(kSpokenFactor, values.spokenFactor);
   }
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
-    event->accept();
-    const QPoint turned = event->angleDelta();
-    const int delta = turned.y() != 0 ? turned.y() : turned.x();
-    if ((delta > 0) != (turnedSoFar_ > 0)) turnedSoFar_ = 0;
-    turnedSoFar_ += delta;
-    const int notches = turnedSoFar_ / kNotch;
-    turnedSoFar_ -= notches * kNotch;
-    setValue(value() + (invertedControls() ? -notches : notches) * singleStep());
+    // A notch is as many steps as it is lines in a list.
+    const int lines = QApplication::wheelScrollLines();
+    QApplication::setWheelScrollLines(1);
+    QSlider::wheelEvent(event);
+    QApplication::setWheelScrollLines(lines);
   }
-
- private:
-  int turnedSoFar_ = 0;
 };
 
 }  // namespace
 
-Slider::Slider(FormWindow& form, const ControlData& data, const SliderData& values)
-    : Control(form, data, new SliderWidget(values)), slider_(static_cast<QSlider*>(widget())) {
+Slider::Slider(FormWindow& form, const ControlData& data)
+    : Control(form, data, new SliderWidget(*data.slider)), slider_(static_cast<QSlider*>(widget())) {
+  const SliderData& values = *data.slider;
   slider_->setPageStep(values.largeChange);
   slider_->setSingleStep(values.smallChange);
   slider_->setTickPosition(QSlider::TicksAbove);

@@ -7,12 +7,12 @@ class QSlider;
 
 namespace forms {
 
-/// Values rise from left to right, or from top to bottom. A number outside `Min`..`Max` becomes the nearest
-/// end. By hand, each step raises Scroll and then Change; by assignment a different value raises Change
-/// before the assignment returns. A new `Min` or `Max` moves the value without an event.
+/// Values rise from left to right, or from top to bottom; one outside `Min`..`Max` becomes the nearest end.
+/// By hand, each step raises Scroll and then Change; by assignment a different value raises Change before the
+/// assignment returns. A new `Min` or `Max` moves the value without an event.
 class Slider : public Control {
  public:
-  Slider(FormWindow& form, const ControlData& data, const SliderData& values);
+  Slider(FormWindow& form, const ControlData& data);
 
   int value() const;
   void setValue(int value);

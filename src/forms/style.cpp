@@ -7,8 +7,6 @@
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
 
-#include "forms/form_data.h"
-
 namespace forms {
 namespace {
 
@@ -18,8 +16,6 @@ constexpr QRgb kFocus = 0xFF104E9E;
 
 QPalette lightPalette() {
   QPalette palette{QColor(kFace)};
-  palette.setColor(QPalette::Window, QColor(kFace));
-  palette.setColor(QPalette::Button, QColor(kFace));
   palette.setColor(QPalette::Base, Qt::white);
   palette.setColor(QPalette::Highlight, QColor(kFocus));
   palette.setColor(QPalette::HighlightedText, Qt::white);
@@ -32,8 +28,8 @@ QPalette lightPalette() {
   return palette;
 }
 
-/// No part of a slider's groove is filled: what is coloured beside it are the program's own bars. The one
-/// that has the focus, of many, shows it by its whole thumb.
+/// No part of a slider's groove is filled: colour belongs to the program's bars beside it. The slider that
+/// has the focus, one of many, shows it by its whole thumb.
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStyleFactory::create("Fusion")), plain_(lightPalette()), focus_(plain_) {
@@ -43,13 +39,8 @@ class Style : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_Slider || slider == nullptr) {
-      QProxyStyle::drawComplexControl(control, option, painter, widget);
-      return;
-    }
-    // The parts are drawn in their own size. Smoothed all the same, each is filled span by span, and Qt hands
-    // the spans to threads that have to be started first.
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
+    if (control != CC_Slider || slider == nullptr)
+      return QProxyStyle::drawComplexControl(control, option, painter, widget);
     QStyleOptionSlider part = *slider;
     part.palette = plain_;
     part.state &= ~State_HasFocus;
@@ -98,7 +89,7 @@ class Style : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
     // Each frame of an animation would wake an otherwise idle process.
-    if (hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate) return 0;
+    if (hint == SH_Widget_Animation_Duration) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 
@@ -127,8 +118,8 @@ QColor toQt(Color color) {
 }
 
 QFont fontOf(double points, bool bold) {
-  // Where it is missing, fontconfig names a font of the same widths, as Liberation Sans, so that the layout
-  // is the same with either. A list of names here would be searched name by name.
+  // Where it is missing, fontconfig names a font of the same widths, as Liberation Sans. A list of names here
+  // would be searched name by name.
   QFont font("Arial");
   // In pixels: how many a point has is the desktop's choice, and the layout's are fixed.
   font.setPixelSize(qRound(points * 96 / 72));
@@ -157,7 +148,7 @@ void drawOutline(QPainter& painter, const QRect& extent, const QColor& color) {
 void applyStyle() {
   QApplication::setStyle(new Style);
   QApplication::setPalette(lightPalette());
-  QApplication::setFont(fontOf(Look{}.fontSize, false));
+  QApplication::setFont(fontOf(Properties{}.fontSize, false));
 }
 
 }  // namespace forms

@@ -6,7 +6,7 @@
 #include <QString>
 #include <string>
 
-#include "forms/color.h"
+#include "forms/form_data.h"
 
 class QPainter;
 

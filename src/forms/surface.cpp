@@ -11,33 +11,25 @@ Surface::Surface(bool border, Scale scale) : border_(border), scale_(scale) {
   setAutoFillBackground(true);
 }
 
-QRect Surface::extentOf(const DrawnLine& line) const {
+QRect Surface::extentOf(const LineData& line) const {
   const double pixel = 1 / unitsPerPixel();
   const QRectF extent =
       QRectF(QPointF(line.x1, line.y1) * pixel, QPointF(line.x2, line.y2) * pixel).normalized();
-  const double margin = line.width + 1;
+  const double margin = line.borderWidth + 1;
   return extent.translated(border(), border()).adjusted(-margin, -margin, margin, margin).toAlignedRect();
-}
-
-void Surface::updateLine(const DrawnLine& line) {
-  const QRect extent = extentOf(line);
-  update(extent);
-  // Qt paints an opaque label only where the label itself asks for it.
-  for (QWidget* label : labels_)
-    if (label->geometry().intersects(extent)) label->update(extent.translated(-label->pos()));
 }
 
 void Surface::paintLines(QPainter& painter, const QRect& extent) const {
   painter.setClipRect(extent & rect().adjusted(border(), border(), -border(), -border()));
   painter.translate(border(), border());
   painter.scale(1 / unitsPerPixel(), 1 / unitsPerPixel());
-  for (const DrawnLine& line : lines_) {
+  for (const LineData& line : lines_) {
     const QPointF from(line.x1, line.y1);
     const QPointF to(line.x2, line.y2);
     if (!line.visible || from == to || !extentOf(line).intersects(extent)) continue;
-    painter.setPen(QPen(toQt(line.color), line.width * unitsPerPixel(), Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(toQt(line.color), line.borderWidth * unitsPerPixel(), Qt::SolidLine, Qt::FlatCap));
     // Half a pixel in, so that an odd width covers whole pixels.
-    const double half = line.width % 2 * 0.5 * unitsPerPixel();
+    const double half = line.borderWidth % 2 * 0.5 * unitsPerPixel();
     painter.drawLine(from + QPointF(half, half), to + QPointF(half, half));
   }
 }

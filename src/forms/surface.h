@@ -4,9 +4,7 @@
 #include <QButtonGroup>
 #include <QWidget>
 #include <deque>
-#include <vector>
 
-#include "forms/drawn_line.h"
 #include "forms/form_data.h"
 
 namespace forms {
@@ -26,12 +24,10 @@ class Surface : public QWidget {
   /// The option buttons that stand directly on this surface, of which one is selected.
   QButtonGroup& options() { return options_; }
 
-  /// The line stays where it is for as long as the surface lives.
-  DrawnLine& addLine(const DrawnLine& line) { return lines_.emplace_back(line); }
-  /// Has `label`, which stands on this surface, painted anew with each line that crosses it.
-  void addLabel(QWidget* label) { labels_.push_back(label); }
+  /// Keeps a copy, which stays where it is for as long as the surface lives.
+  LineData& addLine(const LineData& line) { return lines_.emplace_back(line); }
   /// Has the place of `line` painted anew: to be called before and after a change.
-  void updateLine(const DrawnLine& line);
+  void updateLine(const LineData& line) { update(extentOf(line)); }
   /// Paints what the lines have inside `extent`, with `painter` in the coordinates of this widget, as
   /// `extent`. Leaves it clipped and scaled.
   void paintLines(QPainter& painter, const QRect& extent) const;
@@ -41,12 +37,11 @@ class Surface : public QWidget {
 
  private:
   /// The pixels of this widget that `line` can touch.
-  QRect extentOf(const DrawnLine& line) const;
+  QRect extentOf(const LineData& line) const;
 
   bool border_;
   Scale scale_;
-  std::deque<DrawnLine> lines_;
-  std::vector<QWidget*> labels_;
+  std::deque<LineData> lines_;
   QButtonGroup options_;
 };
 

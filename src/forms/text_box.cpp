@@ -28,11 +28,13 @@ QWidget* makeBox(bool multiLine) {
     box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     box->setTabChangesFocus(true);
+    box->setBackgroundRole(QPalette::Base);
     return box;
   }
   auto* box = new LineBox;
   box->setReadOnly(true);
   box->setFrame(false);
+  box->setBackgroundRole(QPalette::Base);
   // What is dropped on it is for the window: Qt would refuse it here.
   box->setAcceptDrops(false);
   return box;
@@ -40,38 +42,10 @@ QWidget* makeBox(bool multiLine) {
 
 }  // namespace
 
-/// Brings the widget up to date before it is shown or touched.
-class TextBoxFilter : public QObject {
- public:
-  explicit TextBoxFilter(TextBox& box) : QObject(box.widget()), box_(box) {}
-
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::Show:
-      case QEvent::FocusIn:
-      case QEvent::KeyPress:
-      case QEvent::InputMethod:
-      case QEvent::MouseButtonPress:
-      case QEvent::ContextMenu:
-      case QEvent::Drop:
-        box_.sync();
-        break;
-      default:
-        break;
-    }
-    return false;
-  }
-
- private:
-  TextBox& box_;
-};
-
 TextBox::TextBox(FormWindow& form, const ControlData& data)
     : Control(form, data, makeBox(data.kind == Kind::MultiLineTextBox)),
       editor_(qobject_cast<QPlainTextEdit*>(widget())),
       text_(data.text) {
-  auto* filter = new TextBoxFilter(*this);
-  widget()->installEventFilter(filter);
   if (editor_ == nullptr) {
     // The accessibility bus can write into a box that is read-only.
     auto* line = static_cast<QLineEdit*>(widget());
@@ -80,26 +54,22 @@ TextBox::TextBox(FormWindow& form, const ControlData& data)
     });
     return;
   }
-  editor_->viewport()->installEventFilter(filter);
   QObject::connect(editor_, &QPlainTextEdit::textChanged, editor_, [this] { edited(); });
 }
 
 void TextBox::setText(const std::string& text) {
   if (text_ == text) return;
   text_ = text;
-  const auto syncNow = [this] { sync(); };
+  const auto prepareSoon = [this] { prepare(); };
   if (!std::exchange(stale_, true) && widget()->isVisible())
-    QMetaObject::invokeMethod(widget(), syncNow, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(widget(), prepareSoon, Qt::QueuedConnection);
   raise(onChange);
 }
 
-void TextBox::sync() {
+void TextBox::prepare() {
   if (!std::exchange(stale_, false)) return;
-  if (editor_ == nullptr) {
-    // The end of a long path says more than its beginning; the cursor behind the text keeps it in view.
-    static_cast<QLineEdit*>(widget())->setText(toQt(text_));
-    return;
-  }
+  // The end of a long path says more than its beginning; the cursor behind the text keeps it in view.
+  if (editor_ == nullptr) return static_cast<QLineEdit*>(widget())->setText(toQt(text_));
   const QSignalBlocker noEdit(editor_);
   editor_->setPlainText(toQt(text_));
 }
@@ -111,7 +81,7 @@ void TextBox::edited() {
 
 void TextBox::setSelStart(int position) {
   if (editor_ == nullptr) return;
-  sync();
+  prepare();
   QTextCursor cursor = editor_->textCursor();
   cursor.setPosition(std::clamp(position, 0, editor_->document()->characterCount() - 1));
   editor_->setTextCursor(cursor);

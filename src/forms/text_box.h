@@ -22,8 +22,7 @@ class TextBox : public Control {
   Event onChange;
 
  private:
-  friend class TextBoxFilter;
-  void sync();
+  void prepare() override;
   void edited();
 
   QPlainTextEdit* editor_;  ///< null in a box of one line

@@ -16,7 +16,7 @@ Timer::Timer(FormWindow& form, const TimerData& data)
 }
 
 void Timer::tick() {
-  form().raise(onTick, [this](bool /*deferred*/) {
+  form().raise(onTick, [this] {
     if (!enabled_ || ticking_) return;
     ticking_ = true;
     onTick();

@@ -8,12 +8,12 @@ class QTimer;
 namespace forms {
 
 /// Ticks at its interval while enabled. No tick comes while its own handler runs or on a form that is not
-/// loaded; those that are due during a paint-only wait become one tick after it.
+/// loaded; those of a paint-only wait become one tick after it.
 class Timer : public Item {
  public:
   Timer(FormWindow& form, const TimerData& data);
 
-  bool enabled() const override { return enabled_; }
+  bool enabled() const { return enabled_; }
   void setEnabled(bool enabled);
 
   Event onTick;

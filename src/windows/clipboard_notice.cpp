@@ -1,6 +1,6 @@
 #include "windows/clipboard_notice.h"
 
-#include "forms/clipboard.h"
+#include "forms/application.h"
 
 namespace {
 
@@ -9,7 +9,6 @@ constexpr auto kCopied = "Data On Clipboard";
 }  // namespace
 
 void CopyToClipboard(forms::CommandButton& button, const std::string& text) {
-  forms::Clipboard::clear();
   forms::Clipboard::setText(text);
   button.setCaption(kCopied);
   button.announce();

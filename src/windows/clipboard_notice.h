@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/controls.h"
+#include "forms/buttons.h"
 
 /// Puts `text` on the clipboard and has `button` say so.
 void CopyToClipboard(forms::CommandButton& button, const std::string& text);

@@ -1,7 +1,7 @@
 // The colours of the windows. Those of bars and marks say how strong a setting is.
 #pragma once
 
-#include "forms/color.h"
+#include "forms/form_data.h"
 
 inline constexpr forms::Color kBlack = 0x000000;
 inline constexpr forms::Color kBlue = 0xFF0000;

@@ -1,8 +1,7 @@
 // The main window: its controls, what they do, and what it shows.
 #pragma once
 
-#include "forms/controls.h"
-#include "forms/default_instance.h"
+#include "forms/form.h"
 #include "tools/dos_outputs.h"
 
 /// Handlers have the name of their control and event; the index is that of the member in its array.

@@ -5,15 +5,20 @@ using namespace forms;
 
 namespace {
 
-constexpr Look kCentred{.alignment = Alignment::Centre};
-constexpr Look kTitle{.back = kGrey, .fore = kPaleGrey, .alignment = Alignment::Centre};
-constexpr Look kReadOut{.back = kLightGrey, .fore = kDarkGrey};
-constexpr Look kClearReadOut{.back = kLightGrey, .fore = kDarkGrey, .transparent = true};
-constexpr Look kRightReadOut{
+constexpr Properties kCentred{.alignment = Alignment::Centre};
+constexpr Properties kTitle{.back = kGrey, .fore = kPaleGrey, .alignment = Alignment::Centre};
+constexpr Properties kReadOut{.back = kLightGrey, .fore = kDarkGrey};
+constexpr Properties kClearReadOut{.back = kLightGrey, .fore = kDarkGrey, .transparent = true};
+constexpr Properties kRightReadOut{
     .back = kLightGrey, .fore = kDarkGrey, .alignment = Alignment::Right, .transparent = true};
 
-// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look; spoken
-// name.
+// Vertical; min, max, large and small change, ticks every, value; how a screen reader says it.
+constexpr SliderData kBand{true, -12, 12, 5, 1, 2, 0, -1, "dB"};
+constexpr SliderData kGain{false, -10, 10, 5, 1, 1, 0, 20, "%"};
+constexpr SliderData kBandwidth{false, 1, 254, 5, 1, 15, 1, 1, ""};
+
+// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; properties;
+// spoken name; slider.
 // clang-format off
 constexpr ControlData kControls[] = {
     // The boxes first, so that what they hold finds them.
@@ -27,7 +32,7 @@ constexpr ControlData kControls[] = {
     {Kind::Label, "Label6", kSingle, "", 480, 120, 255, 75, 38, "", {.alignment = Alignment::Centre, .fontSize = 6.75}},
     {Kind::Label, "Label9", 0, "", 600, 120, 90, 90, 54, "1"},
     // Band strip.
-    {Kind::Slider, "Slider1", 0, "Picture1(0)", 240, 1320, 315, 855, 7, ""},
+    {Kind::Slider, "Slider1", 0, "Picture1(0)", 240, 1320, 315, 855, 7, "", {}, "", &kBand},
     {Kind::Label, "Label1", 0, "Picture1(0)", 480, 120, 255, 255, 4, "", {.transparent = true}},
     {Kind::Label, "Label2", 0, "Picture1(0)", 480, 360, 135, 255, 5, ""},
     {Kind::Label, "Label2", 1, "Picture1(0)", 480, 600, 135, 255, 39, ""},
@@ -38,25 +43,25 @@ constexpr ControlData kControls[] = {
     {Kind::CommandButton, "Command1", 6, "Picture1(1)", 120, 840, 1935, 375, 34, "FFmpeg EQ String"},
     {Kind::CommandButton, "Command1", 7, "Picture1(1)", 2040, 840, 2055, 375, 35, "Save Preset"},
     {Kind::CommandButton, "Command1", 8, "Picture1(1)", 4080, 840, 1935, 375, 36, " EQ String > Clipboard"},
-    {Kind::Slider, "Slider3", kSingle, "Picture1(1)", 6360, 480, 3735, 495, 48, "", {}, "Bandwidth"},
+    {Kind::Slider, "Slider3", kSingle, "Picture1(1)", 6360, 480, 3735, 495, 48, "", {}, "Bandwidth", &kBandwidth},
     {Kind::Label, "Label8", 0, "Picture1(1)", 6480, 240, 1095, 255, 49, "1 Hz "},
     {Kind::Label, "Label8", 1, "Picture1(1)", 7680, 240, 1095, 255, 50, "Bandwidth", kCentred},
     {Kind::Label, "Label8", 2, "Picture1(1)", 8880, 240, 1095, 255, 51, "254 Hz", {.alignment = Alignment::Right}},
     {Kind::Label, "Label8", 3, "Picture1(1)", 6480, 960, 3495, 255, 52, "Current Bandwidth Settings: 001 Hz", kCentred},
-    {Kind::Slider, "Slider2", kSingle, "Picture1(1)", 10440, 480, 4095, 495, 8, "", {}, "Gain"},
+    {Kind::Slider, "Slider2", kSingle, "Picture1(1)", 10440, 480, 4095, 495, 8, "", {}, "Gain", &kGain},
     {Kind::Label, "Label4", 0, "Picture1(1)", 12000, 240, 855, 255, 18, "< Gain >", kCentred},
     {Kind::Label, "Label4", 1, "Picture1(1)", 10560, 240, 1215, 255, 19, "Decrease [ - ]"},
     {Kind::Label, "Label4", 2, "Picture1(1)", 13320, 240, 1095, 255, 20, "[ + ] Increase", {.alignment = Alignment::Right}},
     // Option panel.
     {Kind::Label, "Label3", 0, "Picture1(2)", 0, 0, 1815, 255, 10, "Presets", kTitle},
     {Kind::Label, "Label5", kSingle, "Picture1(2)", 0, 240, 1815, 255, 31, "", {.back = kLightGrey}},
-    {Kind::OptionButton, "Option1", 0, "Picture1(2)", 120, 240, 1335, 210, 11, "No Preset", {.back = kLightGrey, .selected = true, .clicksAgain = true}},
-    {Kind::OptionButton, "Option1", 1, "Picture1(2)", 120, 600, 495, 210, 12, "1", {.clicksAgain = true}, "Preset 1"},
-    {Kind::OptionButton, "Option1", 2, "Picture1(2)", 600, 600, 495, 210, 13, "2", {.clicksAgain = true}, "Preset 2"},
-    {Kind::OptionButton, "Option1", 3, "Picture1(2)", 1080, 600, 495, 210, 14, "3", {.clicksAgain = true}, "Preset 3"},
-    {Kind::OptionButton, "Option1", 4, "Picture1(2)", 120, 840, 495, 210, 15, "4", {.clicksAgain = true}, "Preset 4"},
-    {Kind::OptionButton, "Option1", 5, "Picture1(2)", 600, 840, 495, 210, 16, "5", {.clicksAgain = true}, "Preset 5"},
-    {Kind::OptionButton, "Option1", 6, "Picture1(2)", 1080, 840, 495, 210, 17, "6", {.clicksAgain = true}, "Preset 6"},
+    {Kind::OptionButton, "Option1", 0, "Picture1(2)", 120, 240, 1335, 210, 11, "No Preset", {.back = kLightGrey, .selected = true, .canBeChosenAgain = true}},
+    {Kind::OptionButton, "Option1", 1, "Picture1(2)", 120, 600, 495, 210, 12, "1", {.canBeChosenAgain = true}, "Preset 1"},
+    {Kind::OptionButton, "Option1", 2, "Picture1(2)", 600, 600, 495, 210, 13, "2", {.canBeChosenAgain = true}, "Preset 2"},
+    {Kind::OptionButton, "Option1", 3, "Picture1(2)", 1080, 600, 495, 210, 14, "3", {.canBeChosenAgain = true}, "Preset 3"},
+    {Kind::OptionButton, "Option1", 4, "Picture1(2)", 120, 840, 495, 210, 15, "4", {.canBeChosenAgain = true}, "Preset 4"},
+    {Kind::OptionButton, "Option1", 5, "Picture1(2)", 600, 840, 495, 210, 16, "5", {.canBeChosenAgain = true}, "Preset 5"},
+    {Kind::OptionButton, "Option1", 6, "Picture1(2)", 1080, 840, 495, 210, 17, "6", {.canBeChosenAgain = true}, "Preset 6"},
     {Kind::Label, "Label3", 1, "Picture1(2)", 0, 1080, 1815, 255, 23, "EQ Range", kTitle},
     {Kind::OptionButton, "Option2", 0, "Picture1(3)", 120, 0, 1215, 255, 24, "+/- 12 db", {.selected = true}, "plus or minus 12 dB"},
     {Kind::OptionButton, "Option2", 1, "Picture1(3)", 120, 240, 1215, 255, 25, "+/- 6 db", {}, "plus or minus 6 dB"},
@@ -96,13 +101,6 @@ constexpr LineData kLines[] = {
     {"Line11", kSingle, "Picture1(2)", 0, 3120, 1800, 3120, kDarkGrey, 2},
 };
 
-// Name, vertical; min, max, large and small change, ticks every, value; how a screen reader says it.
-constexpr SliderData kSliders[] = {
-    {"Slider1", true, -12, 12, 5, 1, 2, 0, -1, "dB"},
-    {"Slider2", false, -10, 10, 5, 1, 1, 0, 20, "%"},
-    {"Slider3", false, 1, 254, 5, 1, 15, 1, 1, ""},
-};
-
 // Name, interval in milliseconds, enabled.
 constexpr TimerData kTimers[] = {
     {"Timer1", 0, true},
@@ -127,7 +125,6 @@ const FormData kForm1Data{
     .endsProgram = true,
     .controls = kControls,
     .lines = kLines,
-    .sliders = kSliders,
     .timers = kTimers,
     .commonDialog = "CDialog",
 };

@@ -1,8 +1,7 @@
 // The progress window of a render.
 #pragma once
 
-#include "forms/controls.h"
-#include "forms/default_instance.h"
+#include "forms/form.h"
 #include "tools/dos_outputs.h"
 
 /// One load starts one render. A window that is closed meanwhile leaves the render running.

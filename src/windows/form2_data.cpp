@@ -5,19 +5,19 @@ using namespace forms;
 
 namespace {
 
-constexpr Look kPlain{.back = kLightGrey};
-constexpr Look kPath{.back = kLightGrey, .elided = true};
-constexpr Look kGreen{.back = 0x00C000};
-constexpr Look kYellow{.back = 0x00FFFF};
-constexpr Look kClip{.back = kRed, .alignment = Alignment::Centre, .bold = true};
+constexpr Properties kPlain{.back = kLightGrey};
+constexpr Properties kPath{.back = kLightGrey, .elided = true};
+constexpr Properties kGreen{.back = 0x00C000};
+constexpr Properties kYellow{.back = 0x00FFFF};
+constexpr Properties kClip{.back = kRed, .alignment = Alignment::Centre, .bold = true};
 
-// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look; spoken
-// name.
+// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; properties;
+// spoken name.
 // clang-format off
 constexpr ControlData kControls[] = {
     {Kind::PictureBox, "Picture2", kSingle, "", 240, 1920, 6135, 855, -1, "", {.back = kLightGrey, .border = true, .scale = Scale::Twips}},
-    // Below the window's edge.
-    {Kind::PictureBox, "Picture1", kSingle, "", 360, 3840, 14175, 2295, -1, "", {.border = true, .scale = Scale::Twips, .outOfSight = true}},
+    // Below the window's edge; hidden, so that the keyboard does not get there either.
+    {Kind::PictureBox, "Picture1", kSingle, "", 360, 3840, 14175, 2295, -1, "", {.border = true, .scale = Scale::Twips, .hidden = true}},
     {Kind::Label, "Label1", 0, "", 240, 240, 1215, 255, -1, "Saving As", kPlain},
     {Kind::Label, "Label1", 1, "", 240, 600, 6015, 255, -1, "<%OutPutFile%>", kPath},
     {Kind::Label, "Label1", 2, "", 240, 1200, 3495, 255, -1, "Progress: 00% Completed", kPlain},

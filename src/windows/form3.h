@@ -1,8 +1,7 @@
 // The window that shows the filter chain as text and gives it away.
 #pragma once
 
-#include "forms/controls.h"
-#include "forms/default_instance.h"
+#include "forms/form.h"
 
 class EqStringWindow : public forms::Form {
  public:

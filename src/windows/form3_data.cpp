@@ -5,8 +5,8 @@ using namespace forms;
 
 namespace {
 
-// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; look; spoken
-// name.
+// Kind, name, index, container; left, top, width, height in twips; place in the tab order; text; properties;
+// spoken name.
 // clang-format off
 constexpr ControlData kControls[] = {
     {Kind::MultiLineTextBox, "Text1", kSingle, "", 120, 120, 8295, 2895, 0, "", {.back = kWindowBackground, .fore = kWindowText}, "Filter chain"},

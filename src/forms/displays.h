@@ -1,4 +1,4 @@
-// A caption on a container, and the outline of a rectangle.
+// What shows something and takes nothing from the user: label, shape, picture box and progress bar.
 #pragma once
 
 #include "forms/control.h"
@@ -22,8 +22,6 @@ class Label final : public Control {
   void refit() override;
 
  private:
-  void fitToText();
-
   std::string caption_;
   Alignment alignment_ = Alignment::Left;
   bool autoSize_;
@@ -34,6 +32,32 @@ class Label final : public Control {
 class Shape : public Control {
  public:
   Shape(FormWindow& form, const ControlData& data);
+};
+
+/// A box that holds other controls.
+class PictureBox : public Control {
+ public:
+  PictureBox(FormWindow& form, const ControlData& data);
+
+  /// Size inside the border, in the box's own scale.
+  double scaleWidth() const;
+  double scaleHeight() const;
+};
+
+/// A bar that fills, at 0 of 0 to 100 at first. A bar that is emptied is at its end: a screen reader hears
+/// its maximum from then until it fills again. A value outside `Min`..`Max` and a `Max` not above `Min`
+/// change nothing.
+class ProgressBar : public Control {
+ public:
+  ProgressBar(FormWindow& form, const ControlData& data);
+
+  double value() const { return value_; }
+  void setValue(double value);
+  double max() const { return max_; }
+  void setMax(double max);
+
+ private:
+  double value_ = 0, max_ = 100;
 };
 
 }  // namespace forms

@@ -58,11 +58,6 @@ expect() {
   [ "$2" = "$3" ] || fail "$1" "$2" "$3"
 }
 
-# expect_file WHAT EXPECTED GOT: two files; zero bytes between arguments show as lines.
-expect_file() {
-  cmp -s "$2" "$3" || fail "$1" "$(head -c 4000 "$2" | tr '\0' '\n')" "$(head -c 4000 "$3" 2>&1 | tr '\0' '\n')"
-}
-
 # in_background COMMAND...: until the script ends.
 in_background() {
   "$@" >/dev/null 2>&1 &
@@ -70,9 +65,11 @@ in_background() {
   disown
 }
 
+# No click concerns the window manager: one that looks at each first holds the mouse events of a fast hand up, and
+# hands them on with places where the mouse only got to later. Its key for closing a window is Alt+F4.
 start_desktop() {
   start_display
-  window_manager_settings >"$scratch/openbox.xml"
+  cat >"$scratch/openbox.xml" <<<'<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>'
   in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
   wait_for desktop_is_managed
 }
@@ -93,29 +90,15 @@ start_display() {
   "$places" >"$scratch/places" 2>"$scratch/errors" || fail "$places does not tell the places"
 }
 
-# No click inside a window concerns the window manager: one that looks at each first holds the mouse events of
-# a fast hand up, and hands them on with places where the mouse only got to later.
-window_manager_settings() {
-  cat <<'END'
-<openbox_config xmlns="http://openbox.org/3.4/rc">
-  <focus><focusNew>yes</focusNew></focus>
-  <mouse>
-    <context name="Close"><mousebind button="Left" action="Click"><action name="Close"/></mousebind></context>
-    <context name="Iconify"><mousebind button="Left" action="Click"><action name="Iconify"/></mousebind></context>
-  </mouse>
-</openbox_config>
-END
-}
-
 desktop_is_managed() {
   xprop -root _NET_SUPPORTING_WM_CHECK | grep -q '#'
 }
 
-# tool NAME <SCRIPT: puts a tool beside the program that keeps its arguments, each ended by a zero byte, and
-# then does what the script says.
+# tool NAME <SCRIPT: puts a tool beside the program that leaves a file when it begins, and then does what the
+# script says.
 tool() {
   # shellcheck disable=SC2016
-  { printf '#!/bin/bash\nprintf "%%s\\0" "$@" >"$0.part"\nmv "$0.part" "$0.args"\n' && cat; } >"$folder/$1"
+  { printf '#!/bin/bash\n: >"$0.begun"\n' && cat; } >"$folder/$1"
   chmod +x "$folder/$1"
 }
 
@@ -154,11 +137,6 @@ no_window() {
 
 program_has_ended() {
   ! kill -0 "$running" 2>/dev/null
-}
-
-program_has_ended_well() {
-  wait_for program_has_ended
-  wait "$running" || fail "the program has ended with status $?"
 }
 
 only_program_runs() {
@@ -200,22 +178,11 @@ click_at() {
   xdotool mousemove --window "$1" "$2" "$3" click 1
 }
 
-# Bare ground of the main window, where the mouse lights up nothing.
-leave_mouse() {
-  xdotool mousemove --window "$main" 560 325
-}
-
-# The thumb of a band (0 to 31) at a position of its slider, in a range of -LIMIT to LIMIT.
-band_x() { echo $((55 + 30 * $1)); }
-band_y() { echo $((100 + 121 * $1 / (2 * $2))); }
-
-# drag_band BAND FROM TO LIMIT
+# drag_band BAND POSITION: a band (0 to 31) that is at 0, in the range of 12 dB.
 drag_band() {
-  local x
-  x=$(band_x "$1")
-  xdotool mousemove --window "$main" "$x" "$(band_y "$2" "$4")" mousedown 1 \
-    mousemove --window "$main" "$x" "$((($(band_y "$2" "$4") + $(band_y "$3" "$4")) / 2))" \
-    mousemove --window "$main" "$x" "$(band_y "$3" "$4")" mouseup 1
+  local x=$((55 + 30 * $1))
+  xdotool mousemove --window "$main" $x 100 mousedown 1 \
+    mousemove --window "$main" $x $((100 + 121 * $2 / 24)) mouseup 1
 }
 
 keys() {
@@ -234,27 +201,22 @@ paste_text() {
   keys ctrl+v
 }
 
-# choose TITLE NAME: answers the file dialog of that title.
+# choose BUTTON TITLE NAME TOOL: answers the file dialog of that title, up to the start of the tool.
 choose() {
-  wait_for window_is_active "$1"
-  paste_text "$2"
+  rm -f "$folder/$4.begun"
+  click "$1"
+  wait_for window_is_active "$2"
+  paste_text "$3"
   keys Return
-  wait_for no_window "$1"
+  wait_for test -e "$folder/$4.begun"
 }
 
 open_source() {
-  rm -f "$folder/ffprobe.args"
-  click "Open Source"
-  choose "Open Source File" "$1"
-  wait_for test -e "$folder/ffprobe.args"
+  choose "Open Source" "Open Source File" "$1" ffprobe
 }
 
-# Up to the start of ffmpeg.
 save_as() {
-  rm -f "$folder/ffmpeg.args"
-  click "Save As"
-  choose "Save As" "$1"
-  wait_for test -e "$folder/ffmpeg.args"
+  choose "Save As" "Save As" "$1" ffmpeg
 }
 
 # The progress window, by its button.
@@ -269,43 +231,10 @@ keep_look() {
   import -silent -window root -depth 8 "rgb:$scratch/$1"
 }
 
-# The screen looks as in that picture by now.
-looks_like() {
-  keep_look now && cmp -s "$scratch/$1" "$scratch/now"
-}
-
-looks_unlike() {
-  ! looks_like "$1"
-}
-
 # still NAME: keeps the look of a screen where all that was done has been painted. No event tells that. But a
 # program that has events before it does not sleep, however busy the machine is, and what it paints by a
 # timer shows as a difference between two pictures.
 still() {
-  keep_look "$1" && ! grep -qs '^State:.[RD]' /proc/"$running"/task/*/status && looks_like "$1"
-}
-
-# pixel X Y: its colour on the main window, as red, green and blue in hexadecimal digits.
-pixel() {
-  import -silent -window "$main" -crop "1x1+$1+$2" -depth 8 rgb:- | od -An -tx1 | tr -d ' '
-}
-
-frequencies=(19 20 25 31.5 33 40 50 63 75 80 125 160 250 313 400 450 500 630 1000 1250 1600 2000 2500 3150
-  4000 5000 6300 8000 10000 12500 16000 20000)
-
-# chain WIDTH GAIN...: the filters of the highest bands, one for each gain, joined by commas.
-chain() {
-  local width=$1 first i text=
-  shift
-  first=$((32 - $#))
-  for ((i = first; i < 32; i++)); do
-    text+=",equalizer=f=${frequencies[i]}:width_type=o:width=$width:g=$1"
-    shift
-  done
-  echo "${text#,}"
-}
-
-# arguments ARGUMENT...: as a tool keeps them, in the file $scratch/arguments.
-arguments() {
-  printf '%s\0' "$@" >"$scratch/arguments"
+  keep_look "$1" && ! grep -qs '^State:.[RD]' /proc/"$running"/task/*/status && keep_look now &&
+    cmp -s "$scratch/$1" "$scratch/now"
 }

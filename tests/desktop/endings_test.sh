@@ -9,17 +9,14 @@ target="$folder/out.wav"
 end_program() {
   case $1 in
     Exit) click_at "${exit_button[@]}" ;;
-    close) close_button ;;
+    close) close_window ;;
     server) kill "${started[0]}" ;;
     *) kill -s "$1" "$running" ;;
   esac
 }
 
-# At the right end of the title bar.
-close_button() {
-  local top
-  top=$(xprop -id "$main" _NET_FRAME_EXTENTS | cut -d, -f3)
-  click_at "$main" "$(($(xwininfo -id "$main" | awk '/Width:/ { print $2 }') - 10))" $((-top / 2))
+close_window() {
+  xdotool windowactivate --sync "$main" key alt+F4
 }
 
 # FFmpeg writes blocks of 32 KB, about a third of a second each here.
@@ -40,7 +37,7 @@ starts() {
   start_program
   open_source "$source_file"
   [ "$1" = ffprobe ] || click "Preview Audio"
-  wait_for test -e "$folder/$1.args"
+  wait_for test -e "$folder/$1.begun"
 }
 
 start_desktop
@@ -48,23 +45,27 @@ ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
 
 for running_tool in ffprobe ffplay; do
   starts "$running_tool"
-  close_button
+  close_window
   wait_for program_has_ended
   nothing_runs && fail "the program has waited for $running_tool"
   touch "$folder/$running_tool.stop"
   wait_for nothing_runs
 done
 
+in_background bash -c "exec /usr/bin/python3 '$(dirname "$0")/clipboard_manager.py' >'$scratch/handed over'"
 real_tool ffprobe
 mkfifo "$scratch/begin"
 tool ffmpeg <<<": <'$scratch/begin'; exec $(command -v ffmpeg) -re \"\$@\""
 for ending in close Exit TERM HUP server; do
-  start_program LC_ALL=de_DE.UTF-8
+  # Were the theme of the desktop loaded, its file dialogs could crash.
+  start_program LC_ALL=de_DE.UTF-8 QT_QPA_PLATFORMTHEME=qt6ct
+  grep -q libqt6ct "/proc/$running/maps" && fail "the theme of the desktop is loaded"
   open_source "$source_file"
-  click_at "$main" "$(band_x 18)" 70
+  drag_band 18 -6
   wait_for find_control Exit
   exit_button=("${place[@]}") # Looked up now, since the render does not wait for that.
   save_as "$target"
+  click_at "$main" 320 245 # The left half of "EQ String > Clipboard", which the progress window leaves free.
   [ "$ending" != TERM ] || xdotool windowminimize "$main"
   : >"$scratch/begin"
   wait_for writes_the_middle
@@ -73,10 +74,11 @@ for ending in close Exit TERM HUP server; do
   [ "$ending" = Exit ] || signal_tool STOP
   end_program "$ending"
   wait_for program_has_ended
+  [ -s "$scratch/handed over" ] || fail "no clipboard manager was handed the text"
   nothing_runs && fail "the render was over before the program by $ending"
   signal_tool CONT
   wait_for nothing_runs
   [ -e "$scratch/by hand.wav" ] ||
-    ffmpeg -v error -i "$source_file" -af "volume=1,$(chain 1 {,,,,,,,,,,,,,,,,,}-0 5 {,,,,,,,,,,,,}-0)" "$scratch/by hand.wav"
+    ffmpeg -v error -i "$source_file" -af "volume=1,$(cat "$scratch/handed over")" "$scratch/by hand.wav"
   cmp "$scratch/by hand.wav" "$target" || fail "the file is not complete after $ending"
 done

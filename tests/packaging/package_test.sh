@@ -56,7 +56,7 @@ says 0 "StartupWMClass=$(xprop -id "$main" WM_CLASS | cut -d'"' -f4)"$'\n' grep 
 open_source "$home/été à 5.wav"
 wait_for only_program_runs
 click "Preset 3"
-drag_band 18 0 -5 12
+drag_band 18 -5
 click "Save Preset"
 wait_for grep -qs '^Frequency=.*:-5:' "$folder/AppPresets.ini"
 save_as "$home/späte Ausgabe.wav"

@@ -87,8 +87,10 @@ void FormSurface::centre() {
 
 void FormSurface::bringForward() {
   setWindowState(windowState() & ~Qt::WindowMinimized);
-  show();
-  QWidget::raise();
+  if (isVisible())
+    QWidget::raise();
+  else
+    show();
   activateWindow();
 }
 

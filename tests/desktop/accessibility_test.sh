@@ -39,6 +39,8 @@ answer "$scratch/noise.wav"
 press 31.5hz Up Up
 wait_for heard "accessible-value 0 slider|31.5hz|dB|2"
 wait_for heard "accessible-name 0 label|Selected Frequency Value: 2db|"
+press "EQ String > Clipboard" space
+wait_for heard "showing 1 notification|Data On Clipboard|"
 press "FFmpeg EQ String" space
 wait_for heard "FFmpeg Equalizer String: text|Filter chain|"
 press Close Return
@@ -46,9 +48,7 @@ press "Save As" space
 answer "$folder/out.wav"
 wait_for progress_heard # Whichever value: on a busy machine the bar has gone on before it is asked.
 press Close Return
-for control in "slider|"{20K"|dB|0",Gain"|%|100",Bandwidth"||1"} "text|Source file|" "radio button|Preset 6|"; do
-  heard "Tessavane Graphic Equalizer: $control" || fail "not there: $control"
-done
+heard "Tessavane Graphic Equalizer: slider|Gain|%|100" || fail "the controls of the main window were not told"
 names=$(grep '^[^|]*: ' "$scratch/heard" | cut -d'|' -f1,2 | sort)
 expect "controls without a name of their own" "" "$(grep '|$' <<<"$names"; uniq -d <<<"$names")"
 press Exit space

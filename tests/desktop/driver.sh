@@ -69,7 +69,7 @@ in_background() {
 # hands them on with places where the mouse only got to later. Its key for closing a window is Alt+F4.
 start_desktop() {
   start_display
-  cat >"$scratch/openbox.xml" <<<'<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>'
+  echo '<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>' >"$scratch/openbox.xml"
   in_background openbox --sm-disable --config-file "$scratch/openbox.xml"
   wait_for desktop_is_managed
 }
@@ -154,17 +154,13 @@ find_control() {
   local window line title x y
   window=${2:-$(xdotool getactivewindow 2>/dev/null)} || return
   title=$(xdotool getwindowname "$window" 2>/dev/null) || return
-  if ! line=$(place_line "$title" "$1"); then
+  if ! line=$(grep -m 1 -F "$title"$'\t'"$1"$'\t' "$scratch/places"); then
     window=$main
-    line=$(place_line "Tessavane Graphic Equalizer" "$1") || return
+    line=$(grep -m 1 -F "Tessavane Graphic Equalizer"$'\t'"$1"$'\t' "$scratch/places") || return
   fi
   IFS=$'\t' read -r _ _ x y <<<"$line"
   [ "$y" -ge 0 ] || y=$((y + $(xdotool getwindowgeometry --shell "$window" | sed -n 's/HEIGHT=//p')))
   place=("$window" "$x" "$y")
-}
-
-place_line() {
-  grep -m 1 -F "$1"$'\t'"$2"$'\t' "$scratch/places"
 }
 
 # click NAME [WINDOW]: that control, once it is there.
@@ -209,21 +205,6 @@ choose() {
   paste_text "$3"
   keys Return
   wait_for test -e "$folder/$4.begun"
-}
-
-open_source() {
-  choose "Open Source" "Open Source File" "$1" ffprobe
-}
-
-save_as() {
-  choose "Save As" "Save As" "$1" ffmpeg
-}
-
-# The progress window, by its button.
-close_saving() {
-  wait_for window_is_active "Saving"
-  click Close
-  wait_for no_window "Saving"
 }
 
 # keep_look NAME: a picture of the screen, as bare colours.

@@ -29,22 +29,17 @@ minimised_window_counts() {
   xprop -id "$main" WM_NAME | grep -qE '"Velm:  [0-9]{2}\.[0-9]{2}%"'
 }
 
-# starts TOOL: has the program run it.
-starts() {
-  [ "$1" = ffprobe ] || real_tool ffprobe
-  # shellcheck disable=SC2016
-  tool "$1" <<<'until [ -e "$0.stop" ]; do sleep 0.1; done'
-  start_program
-  open_source "$source_file"
-  [ "$1" = ffprobe ] || click "Preview Audio"
-  wait_for test -e "$folder/$1.begun"
-}
-
 start_desktop
 ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
 
 for running_tool in ffprobe ffplay; do
-  starts "$running_tool"
+  real_tool ffprobe
+  # shellcheck disable=SC2016
+  tool "$running_tool" <<<'until [ -e "$0.stop" ]; do sleep 0.1; done'
+  start_program
+  choose "Open Source" "Open Source File" "$source_file" ffprobe
+  [ "$running_tool" = ffprobe ] || click "Preview Audio"
+  wait_for test -e "$folder/$running_tool.begun"
   close_window
   wait_for program_has_ended
   nothing_runs && fail "the program has waited for $running_tool"
@@ -60,11 +55,11 @@ for ending in close Exit TERM HUP server; do
   # Were the theme of the desktop loaded, its file dialogs could crash.
   start_program LC_ALL=de_DE.UTF-8 QT_QPA_PLATFORMTHEME=qt6ct
   grep -q libqt6ct "/proc/$running/maps" && fail "the theme of the desktop is loaded"
-  open_source "$source_file"
+  choose "Open Source" "Open Source File" "$source_file" ffprobe
   drag_band 18 -6
   wait_for find_control Exit
   exit_button=("${place[@]}") # Looked up now, since the render does not wait for that.
-  save_as "$target"
+  choose "Save As" "Save As" "$target" ffmpeg
   click_at "$main" 320 245 # The left half of "EQ String > Clipboard", which the progress window leaves free.
   [ "$ending" != TERM ] || xdotool windowminimize "$main"
   : >"$scratch/begin"

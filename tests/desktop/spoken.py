@@ -23,7 +23,8 @@ def hear(event):  # What is gone meanwhile throws, which does no harm.
         print(*(f"{window.get_name()}: {control}" for control in controls(window)), sep="\n", flush=True)
 
 listener = Atspi.EventListener.new(hear)
-for kind in ["state-changed:focused", "property-change:accessible-name", "property-change:accessible-value"]:
+for kind in ["state-changed:focused", "state-changed:showing", "property-change:accessible-name",
+             "property-change:accessible-value"]:
     listener.register("object:" + kind)
 print("listening", flush=True)
 Atspi.event_main()

@@ -14,8 +14,8 @@ enum class Receiver { Window, Widget };
 
 enum class Fate {
   Kept,    ///< served after the wait, in its turn
-  Taken,   ///< accepted, and gone
-  Refused  ///< ignored, and gone
+  Taken,   ///< nobody gets it, and Qt believes that it was used
+  Refused  ///< nobody gets it, and Qt believes that it was not
 };
 
 struct Rule {

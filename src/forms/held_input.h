@@ -22,8 +22,8 @@ class HeldInput : public QObject {
   void hold() { holding_ = true; }
   bool isHolding() const { return holding_; }
 
-  /// Serves what was kept, in its order, one event at each turn of the event loop: one can open a dialog that
-  /// needs the next. Input that comes meanwhile waits its turn.
+  /// Stops keeping, and has the event loop serve what was kept, in its order, one event at each turn of the
+  /// event loop: one can open a dialog that needs the next. Input that comes meanwhile waits its turn.
   void release();
   /// True while a next turn of the event loop has something to serve.
   bool isServing() const { return !holding_ && !held_.empty(); }

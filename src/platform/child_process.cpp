@@ -65,7 +65,7 @@ class OneProcessor {
 /// What a child is given at its start besides its arguments.
 class StartPlan {
  public:
-  explicit StartPlan(int output) {
+  explicit StartPlan(int writeEnd) {
     sigset_t none;
     sigemptyset(&none);
     posix_spawnattr_init(&attributes_);
@@ -74,8 +74,8 @@ class StartPlan {
     // where opening the device first would close it.
     complete_ = posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK) == 0 &&
                 posix_spawnattr_setsigmask(&attributes_, &none) == 0 &&
-                posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO) == 0 &&
-                posix_spawn_file_actions_adddup2(&actions_, output, STDERR_FILENO) == 0 &&
+                posix_spawn_file_actions_adddup2(&actions_, writeEnd, STDOUT_FILENO) == 0 &&
+                posix_spawn_file_actions_adddup2(&actions_, writeEnd, STDERR_FILENO) == 0 &&
                 posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0) == 0;
   }
   ~StartPlan() {
@@ -136,13 +136,13 @@ bool ChildProcess::start(const std::string& commandLine) {
   const Command command = parseCommand(commandLine);
   int ends[2];
   if (command.program.empty() || pipe2(ends, O_CLOEXEC) != 0) return false;
-  Descriptor output(ends[0]);
-  const Descriptor input(ends[1]);
+  Descriptor readEnd(ends[0]);
+  const Descriptor writeEnd(ends[1]);
   prepareSignals();
-  if (fcntl(output.number(), F_SETFL, O_NONBLOCK) != 0) return false;
-  const pid_t child = StartPlan(input.number()).run(command);
+  if (fcntl(readEnd.number(), F_SETFL, O_NONBLOCK) != 0) return false;
+  const pid_t child = StartPlan(writeEnd.number()).run(command);
   if (child < 0) return false;
-  output_ = std::move(output);
+  output_ = std::move(readEnd);
   // Opened at once: later the kernel may have given the number to another process.
   const std::string tasks = "/proc/" + std::to_string(child) + "/task";
   tasks_ = Descriptor(open(tasks.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

@@ -43,6 +43,7 @@ void RenderWindow::DosCommand() {
     const RunningRender inUse(AppState);
     runner->ExecuteCommand("");
   }
+  // Whatever the outcome, which nobody looks at. The window stays open.
   Label1(2).setCaption("Progress: 100% Completed");
   PBar.setValue(0);
   objDOS.clear();
@@ -54,6 +55,7 @@ void RenderWindow::objDOS_ReceiveOutputs(const std::string& CommandOutputs) {
   if (!isLoaded()) return;
   const std::string_view time = progressTime(CommandOutputs);
   if (time.empty()) return;
+  // The percentage is that of the piece before.
   const auto value = static_cast<float>(PBar.value());
   const auto max = static_cast<float>(PBar.max());
   if (const auto seconds = secondsOfTime(time)) PBar.setValue(*seconds);

@@ -5,4 +5,4 @@
 void Main();
 
 /// Unloads all windows and ends the process at once. Nothing is saved; children run on.
-void CleanUnload();
+[[noreturn]] void CleanUnload();

@@ -47,7 +47,7 @@ void command(const std::string& text) {
 
 void output(const std::string& text) {
   std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
+  for (std::string line; std::getline(lines, line, '\r');) {
     Form2->objDOS_ReceiveOutputs(line);
     Form1->objDOS_ReceiveOutputs(line);
     Form2->Form_Load();

@@ -55,7 +55,9 @@ TEST_F(SliderByHand, AScreenReaderHearsAndSetsWhatThePositionStandsFor) {
     EXPECT_EQ(spoken->valueInterface()->currentValue(), value) << name;
     EXPECT_EQ(spoken->valueInterface()->minimumValue(), min) << name;
     EXPECT_EQ(spoken->valueInterface()->maximumValue(), max) << name;
+    events.clear();
     spoken->valueInterface()->setCurrentValue(max);
+    EXPECT_EQ(events, "SC") << name << " as by hand";
     EXPECT_EQ(spoken->valueInterface()->currentValue(), max) << name;
   }
 }

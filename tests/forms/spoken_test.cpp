@@ -1,7 +1,6 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QButtonGroup>
-#include <QSlider>
 
 #include "support/session.h"
 #include "windows/presets.h"
@@ -79,24 +78,6 @@ TEST_F(Spoken, EachActionOnEachButtonIsAClickByHand) {
     }
   }
   EXPECT_EQ(clicked, 7 + 1 + 4 + 7 + 2 + 2 + 1) << "buttons of three windows, options and a box";
-}
-
-TEST_F(Spoken, EachSliderTakesAValueAsItTakesAStepByHand) {
-  const auto noteStep = [this](forms::Slider& slider) {
-    record(slider.onScroll, "S");
-    record(slider.onChange, "C");
-  };
-  Form1->Slider1.each(noteStep);
-  noteStep(Form1->Slider2);
-  noteStep(Form1->Slider3);
-  for (QSlider* slider : all<QSlider>()) {
-    QAccessibleValueInterface* value = spoken(slider).valueInterface();
-    const double next = value->currentValue().toDouble() + value->minimumStepSize().toDouble();
-    events.clear();
-    value->setCurrentValue(next);
-    EXPECT_EQ(events, "SC") << slider->objectName().toStdString();
-    EXPECT_EQ(value->currentValue().toDouble(), next) << slider->objectName().toStdString();
-  }
 }
 
 TEST_F(Spoken, TextIsWrittenWhereAHandCanWrite) {

@@ -72,11 +72,6 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
   }
 }
 
-TEST_F(MainWindowTest, SizesItsFontsInPixels) {
-  EXPECT_EQ(Form1->Command1(0).widget()->font().pixelSize(), 11);
-  EXPECT_EQ(Form1->Label1(0).widget()->font().pixelSize(), 9);
-}
-
 TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
   forms::Label& caption = Form1->Label8(3);
   const auto needed = [&] {
@@ -89,9 +84,6 @@ TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
   caption.setCaption(before);
   EXPECT_LE(needed(), caption.widget()->width());
   EXPECT_EQ(caption.widget()->font().stretch(), Form1->Label8(1).widget()->font().stretch());
-  forms::CheckBox box(*Form1, {forms::Kind::CheckBox, "", 0, "", 0, 0, 1200, 210, 0, "Indicator bars"});
-  EXPECT_LE(box.widget()->fontMetrics().horizontalAdvance("Indicator bars"), 60);
-  delete box.widget();  // The form outlives the box.
 }
 
 /// The name of a box stands for that option button in it that takes the focus.
@@ -137,11 +129,6 @@ TEST_F(MainWindowTest, ShowsTheGainWhichComposesNothing) {
     EXPECT_EQ(Form1->Line10.borderColor(), color) << value;
   }
   EXPECT_EQ(AppState.EqString, "");
-}
-
-TEST_F(MainWindowTest, TheWidthComposesEveryBand) {
-  Form1->Slider3.setValue(2);
-  for (const std::string& text : AppState.BandGainText) EXPECT_EQ(text, "-0");
 }
 
 TEST_F(MainWindowTest, TheClipboardButtonTellsOfACopyUntilTheNextChange) {

@@ -161,30 +161,6 @@ TEST_F(Render, ASecondOneThatFailsLeavesTheMarkerOrTheSourceThatTheTargetHasBeco
   }
 }
 
-TEST_F(Render, WhateverIsTakenAwayMeanwhileItEnds) {
-  const auto hasStarted = [this] { return support::readFile(folder.file("ffmpeg.pid")).ends_with("\n"); };
-  for (const std::string fault : {"kill -KILL $(cat ffmpeg.pid)", "rm ffmpeg", "rm a*.wav", "rm -r sub"}) {
-    fs::create_directory(folder.file("sub"));
-    fakeRender(R"(echo $$ > "$0.pid"; until [ -e "$0.go" ]; do echo time=00:00:09; sleep 0.02; done)");
-    once(hasStarted,
-         [this, fault] { support::shell("cd '" + folder.path() + "'; " + fault + "; >ffmpeg.go"); });
-    render(folder.file("sub/out.wav"));
-    EXPECT_EQ(Form2->Label1(2).caption(), "Progress: 100% Completed") << fault;
-    support::shell("cd '" + folder.path() + "'; rm -f ffmpeg*");
-  }
-}
-
-TEST_F(Render, AFullDiskEndsItAndLeavesTheSource) {
-  support::shell("ffmpeg -v error -y -f lavfi -i anoisesrc=d=4 '" + source + "'");
-  const std::string sound = support::readFile(source);
-  fakeRender("trap '' XFSZ; ulimit -f 100; exec /usr/bin/ffmpeg \"$@\"");
-  Form1->Slider1(2).setValue(1);
-  render(target);
-  EXPECT_EQ(Form2->Label1(2).caption(), "Progress: 100% Completed");
-  EXPECT_EQ(support::readFile(target).size(), 100 * 512U);
-  EXPECT_TRUE(support::readFile(source) == sound);
-}
-
 TEST_F(Render, AnotherTargetInTheOpenWindowStartsNothing) {
   renderMeanwhile(target, [this] { saveAs(folder.file("two.wav")); });
   EXPECT_EQ(support::readFile(folder.file("two.wav")), kMarker);

@@ -9,7 +9,7 @@
 /// What the controls stand for, kept up to date by their events.
 struct AppStateRecord {
   std::string EqString;                          ///< the filter chain as last composed
-  std::array<std::string, kBands> BandGainText;  ///< what goes behind `g=`, in dB
+  std::array<std::string, kBands> BandGainText;  ///< what goes after `g=`, in dB
   int BandWidth = 0;                             ///< 1 to 254, octaves in the chain
   double AudioGain = 0;                          ///< linear factor, -2 to 2 in steps of 0.2
   bool LowCutOn = false;

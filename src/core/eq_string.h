@@ -1,4 +1,4 @@
-// The filter chain as text: what FFmpeg reads behind `-af`, and what users see, save and copy.
+// The filter chain as text: what FFmpeg reads after `-af`, and what users see, save and copy.
 #pragma once
 
 #include <string>

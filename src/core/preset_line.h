@@ -15,7 +15,7 @@ std::string presetLine(std::span<const int> positions, const AppStateRecord& sta
 /// The parts of `line` between its colons; one empty part for an empty line.
 std::vector<std::string_view> presetElements(std::string_view line);
 
-/// At most `count` characters behind the first `marker` of `line`, in any case; empty without a marker.
+/// At most `count` characters after the first `marker` of `line`, in any case; empty without a marker.
 std::string_view presetField(std::string_view line, std::string_view marker, std::size_t count);
 
 /// Gain slider position for a stored percentage: the twentieth part, rounded. None where there is no number.

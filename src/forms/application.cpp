@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QIcon>
+#include <QImageReader>
 #include <QSettings>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -54,8 +55,12 @@ Application::Application() {
   serveScreenReaders();
   applyStyle();
   QIcon icon;
-  for (const char* size : {"16x16", "32x32", "48x48"})
-    icon.addFile(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size));
+  for (const char* size : {"16x16", "32x32", "48x48"}) {
+    QImageReader picture(QString(":/icons/hicolor/%1/apps/tessavane.png").arg(size), "png");
+    // Qt would load all its picture plug-ins and ask each, although the kind is named.
+    picture.setAutoDetectImageFormat(false);
+    icon.addPixmap(QPixmap::fromImageReader(&picture));
+  }
   QApplication::setWindowIcon(icon);
   QApplication::setQuitOnLastWindowClosed(false);
 }

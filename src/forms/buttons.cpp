@@ -19,7 +19,7 @@ void putCaption(QAbstractButton& button, const std::string& caption, int taken) 
   button.setFont(narrowed(button.font(), toQt(caption), button.width() - taken));
 }
 
-/// What Fusion puts before a caption: a circle or a box, and the space behind it.
+/// What Fusion puts before a caption: a circle or a box, and the space after it.
 constexpr int kIndicator = 18;
 
 /// Tab stops once in a group: at its choice, or at each button where it has none. Qt sees to that only once

@@ -68,7 +68,7 @@ void TextBox::setText(const std::string& text) {
 
 void TextBox::prepare() {
   if (!std::exchange(stale_, false)) return;
-  // The end of a long path says more than its beginning; the cursor behind the text keeps it in view.
+  // The end of a long path says more than its beginning; the cursor at the end keeps it in view.
   if (editor_ == nullptr) return static_cast<QLineEdit*>(widget())->setText(toQt(text_));
   const QSignalBlocker noEdit(editor_);
   editor_->setPlainText(toQt(text_));

@@ -21,7 +21,7 @@ bool isFile(const std::string& path) {
 
 /// The file that a program's name stands for, empty where there is none.
 std::string findProgram(std::string_view name) {
-  const std::size_t kept = isBehindProgramFolder(name, kSeparators) ? programFolder().size() : 0;
+  const std::size_t kept = startsInProgramFolder(name, kSeparators) ? programFolder().size() : 0;
   std::string path(name);
   std::replace(path.begin() + static_cast<std::ptrdiff_t>(kept), path.end(), '\\', '/');
   if (!path.starts_with('/')) return {};
@@ -82,7 +82,7 @@ std::string unquotedPath(std::string_view quoted) {
 
 Command parseCommand(std::string_view commandLine) {
   Command command;
-  if (isBehindProgramFolder(commandLine, kSeparators)) {
+  if (startsInProgramFolder(commandLine, kSeparators)) {
     const std::size_t end =
         std::min(commandLine.find_first_of(kBlanks, programFolder().size()), commandLine.size());
     command.arguments = splitArguments(commandLine.substr(end));

@@ -32,7 +32,7 @@ struct Command {
 };
 
 /// Splits `commandLine` and finds its program. A name that begins with the program's own folder is read up to
-/// the first blank or tab behind that folder, so that the folder's name may have blanks. `\` separates
+/// the first blank or tab after that folder, so that the folder's name may have blanks. `\` separates
 /// folders in the program's name, and ".exe" may be missing or too much. Nothing is looked up anywhere else:
 /// not in the search path, and a name that is not absolute finds nothing.
 Command parseCommand(std::string_view commandLine);

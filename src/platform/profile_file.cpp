@@ -37,7 +37,7 @@ bool sameName(std::string_view one, std::string_view other) {
   return std::ranges::equal(trimmed(one), trimmed(other), {}, lower, lower);
 }
 
-/// Where the first line of `text` begins: behind the mark that some editors put in front of UTF-8.
+/// Where the first line of `text` begins: after the mark that some editors put in front of UTF-8.
 std::size_t firstLine(std::string_view text) {
   return text.starts_with("\xEF\xBB\xBF") ? 3 : 0;
 }
@@ -45,11 +45,11 @@ std::size_t firstLine(std::string_view text) {
 /// What a profile file holds of one section and one key, as offsets into its text.
 struct Place {
   bool hasSection = false;
-  /// Behind the last line of the section that is not blank.
+  /// After the last line of the section that is not blank.
   std::size_t sectionEnd = 0;
   bool hasKey = false;
   std::size_t keyBegin = 0;
-  /// Behind the line of the key, its line end included.
+  /// After the line of the key, its line end included.
   std::size_t keyEnd = 0;
 };
 

@@ -11,7 +11,7 @@
 namespace platform {
 namespace {
 
-/// `folder` without "." parts and without a separator at its end. ".." stays: behind a link it leads
+/// `folder` without "." parts and without a separator at its end. ".." stays: past a link it leads
 /// elsewhere than to the left.
 std::string withoutDots(const std::filesystem::path& folder) {
   std::filesystem::path result;
@@ -47,7 +47,7 @@ void setProgramFolder(std::string_view folder) {
   storedFolder() = withoutDots(folder);
 }
 
-bool isBehindProgramFolder(std::string_view path, std::string_view separators) {
+bool startsInProgramFolder(std::string_view path, std::string_view separators) {
   const std::size_t length = programFolder().size();
   return path.size() > length && path.starts_with(programFolder()) &&
          separators.find(path[length]) != std::string_view::npos;
@@ -55,7 +55,7 @@ bool isBehindProgramFolder(std::string_view path, std::string_view separators) {
 
 std::string nativePath(std::string_view path) {
   std::string result(path);
-  if (isBehindProgramFolder(path, "\\")) {
+  if (startsInProgramFolder(path, "\\")) {
     std::replace(result.begin() + static_cast<std::ptrdiff_t>(programFolder().size()), result.end(), '\\',
                  '/');
   }

@@ -1,4 +1,4 @@
-// Where the program lives, and how the paths composed behind its folder become paths of this system.
+// Where the program lives, and how the paths that begin with its folder become paths of this system.
 #pragma once
 
 #include <string>
@@ -14,10 +14,10 @@ const std::string& programFolder();
 /// Puts another folder, absolute, in its place, for a process that acts for a program that lives elsewhere.
 void setProgramFolder(std::string_view folder);
 
-/// True where `path` begins with the program's folder and one of the characters `separators` behind it.
-bool isBehindProgramFolder(std::string_view path, std::string_view separators);
+/// True where `path` begins with the program's folder and one of the characters `separators` after it.
+bool startsInProgramFolder(std::string_view path, std::string_view separators);
 
-/// `path` as a path of this system: where `\` stands behind the program's own folder, it and every `\` after
+/// `path` as a path of this system: where `\` stands after the program's own folder, it and every `\` after
 /// it separate folders; everywhere else it is an ordinary character of a name.
 std::string nativePath(std::string_view path);
 

@@ -16,7 +16,7 @@ bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// At most `count` characters from `from`; empty behind the end.
+/// At most `count` characters from `from`; empty past the end.
 std::string_view part(std::string_view text, std::size_t from, std::size_t count) {
   return from < text.size() ? text.substr(from, count) : std::string_view();
 }

@@ -11,7 +11,7 @@ std::optional<int> secondsOfTime(std::string_view text);
 /// Each carriage return with its line feed becomes one blank.
 void blankLineEnds(std::string& output);
 
-/// Whole seconds behind the first "Duration:" of `output`, as decimal digits, or the empty text where no time
+/// Whole seconds after the first "Duration:" of `output`, as decimal digits, or the empty text where no time
 /// stands there. None without a "Duration:".
 std::optional<std::string> durationSeconds(std::string_view output);
 
@@ -19,9 +19,10 @@ std::optional<std::string> durationSeconds(std::string_view output);
 /// does: a "Duration:" that no time follows is passed over as long as another comes.
 std::optional<std::string> durationSecondsOfRun(std::string_view output);
 
-/// The 8 characters behind the first "time" of `piece`, in any case, and the one character that follows it;
+/// The 8 characters after the first "time" of `piece`, in any case, and the one character that follows it;
 /// or what there is of them.
 std::string_view progressTime(std::string_view piece);
 
-/// `value` in percent of `max`, which is above 0: at least two digits before the point and two behind it, "04.50", "100.00".
+/// `value` in percent of `max`, which is above 0: at least two digits before the point and two after it,
+/// "04.50", "100.00".
 std::string percentText(float value, float max);

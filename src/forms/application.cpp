@@ -46,8 +46,7 @@ Application::Application() {
   QApplication::setAttribute(Qt::AA_Use96Dpi);
   // Qt's file dialog would keep its own settings in the user's home; the program keeps none.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-  // Connecting to the display is mostly waiting. Meanwhile fontconfig reads its files, which Qt would ask it
-  // to do with the first text.
+  // fontconfig reads its files while the display answers. Qt would ask for them with the first text.
   std::thread fontconfig([] { FcInit(); });
   new QApplication(count, arguments);
   fontconfig.join();

@@ -45,7 +45,7 @@ constexpr Rule kRules[] = {
     {QEvent::ShortcutOverride, Receiver::Widget, Fate::Taken},
     // The mouse may have gone on from where the tip would show.
     {QEvent::ToolTip, Receiver::Widget, Fate::Taken},
-    // Qt turns into mouse events what no window takes. None takes those of a tablet anyway.
+    // Qt turns into mouse events what no window takes. None takes those of a tablet, nor gestures, anyway.
     {QEvent::TouchBegin, Receiver::Window, Fate::Refused},
     {QEvent::TouchUpdate, Receiver::Window, Fate::Refused},
     {QEvent::TouchEnd, Receiver::Window, Fate::Refused},

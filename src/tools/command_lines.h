@@ -8,7 +8,8 @@
 /// A factor as plain decimal text with a point, whatever the locale: "1", "0.6", "-1.4".
 std::string gainText(double gain);
 
-/// The absolute path of an existing file, in quotes where a command line needs them. Empty where there is no file.
+/// The absolute path of an existing file, in quotes where a command line needs them. Empty where there is no
+/// file.
 std::string GetShortPath(const std::string& LongPath);
 
 /// Measures the source; paths are short paths.

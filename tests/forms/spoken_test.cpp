@@ -97,12 +97,6 @@ TEST_F(Spoken, ABarThatIsEmptiedIsAtItsEndUntilItFillsAgain) {
   }
 }
 
-TEST_F(Spoken, ATipIsNoDescription) {
-  Form1->Option3(0).onMouseMove(0);
-  ASSERT_NE(Form1->Option3(0).toolTipText(), "");
-  EXPECT_EQ(spoken(Form1->Option3(0).widget()).text(QAccessible::Description), "");
-}
-
 TEST_F(Spoken, GroupsAndTheirOptionsHaveNamesThatCanBeSaid) {
   EXPECT_EQ(name(Form1->Option2(0)), "plus or minus 12 dB");
   EXPECT_EQ(name(Form1->Option2(1)), "plus or minus 6 dB");

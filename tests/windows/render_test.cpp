@@ -168,11 +168,6 @@ TEST_F(Render, AnotherTargetInTheOpenWindowStartsNothing) {
   EXPECT_EQ(support::readFile(folder.file("ffmpeg.runs")), "run\n");
 }
 
-TEST_F(Render, ACancelOpensNothing) {
-  saveAs("");
-  EXPECT_FALSE(Form2.isLoaded());
-}
-
 TEST_F(Render, AClosedWindowStaysClosedAndTellsNoMore) {
   renderMeanwhile(target, [] {
     click(Form2->Command1);

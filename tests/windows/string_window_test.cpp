@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QPlainTextEdit>
-#include <QScreen>
 #include <QWindow>
 
 #include "support/session.h"
@@ -19,14 +18,6 @@ class StringWindow : public support::Session {
   static QString chain() { return QString::fromStdString(AppState.EqString); }
   static std::string listed() { return chain().replace(",", "\r\n").toStdString(); }
 };
-
-/// The screen is narrower than the main window.
-TEST_F(StringWindow, StandsInTheMiddleOfTheMainWindowAsFarAsTheScreenGoes) {
-  const QWidget* window = windowOf(Form3->Text1);
-  const QRect main = windowOf(Form1->Label6)->frameGeometry();
-  EXPECT_NEAR(window->frameGeometry().center().y(), main.center().y(), 1);
-  EXPECT_EQ(window->frameGeometry().right(), window->screen()->availableGeometry().right());
-}
 
 TEST_F(StringWindow, StandsOverItsOwnerWithEveryChainAndEmptyWhenItIsOpenedAnew) {
   EXPECT_EQ(box().window()->windowHandle()->transientParent(), windowOf(Form1->Label6)->windowHandle());

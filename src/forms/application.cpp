@@ -79,22 +79,15 @@ void Application::doEvents() {
 
 void Application::waitPainting(int descriptor, int milliseconds) {
   heldInput->hold();
-  bool over = false;
+  constexpr int kOver = 2;
   QEventLoop loop;
-  const auto stop = [&] {
-    over = true;
-    loop.quit();
-  };
+  const auto stop = [&loop] { loop.exit(kOver); };
   QSocketNotifier readable(descriptor, QSocketNotifier::Read);
   QObject::connect(&readable, &QSocketNotifier::activated, stop);
-  QTimer limit;
-  limit.setSingleShot(true);
-  QObject::connect(&limit, &QTimer::timeout, stop);
-  if (milliseconds >= 0) limit.start(milliseconds);
-  loop.exec();
+  if (milliseconds >= 0) QTimer::singleShot(milliseconds, &loop, stop);
   // Where the display is lost, Qt ends the process; from 6.11 on it calls `QCoreApplication::exit` instead,
   // which makes every event loop return, this one and any begun later, but not the run that waits here.
-  if (!over) std::_Exit(1);
+  if (loop.exec() != kOver) std::_Exit(1);
   heldInput->release();
   for (const Deferred& next : std::exchange(deferred, {})) {
     // The next wait can begin before the event loop gets here.

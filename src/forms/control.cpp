@@ -21,6 +21,11 @@ void Item::raise(const Event& event) const {
   });
 }
 
+/// Before these a widget is brought up to date.
+constexpr QEvent::Type kUses[] = {QEvent::Show,        QEvent::FocusIn,          QEvent::KeyPress,
+                                  QEvent::InputMethod, QEvent::MouseButtonPress, QEvent::ContextMenu,
+                                  QEvent::Drop};
+
 /// Lets a control own all mouse events over its widgets: none goes on to its container.
 class ControlFilter : public QObject {
  public:
@@ -33,27 +38,12 @@ class ControlFilter : public QObject {
   }
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::ToolTip:
-        return control_.showToolTip(static_cast<QHelpEvent*>(event)->globalPos());
-      case QEvent::MouseMove:
-        control_.raise(control_.onMouseMove);
-        break;
-      case QEvent::MouseButtonRelease:
-        control_.raise(control_.onMouseUp);
-        break;
-      case QEvent::Show:
-      case QEvent::FocusIn:
-      case QEvent::KeyPress:
-      case QEvent::InputMethod:
-      case QEvent::MouseButtonPress:
-      case QEvent::ContextMenu:
-      case QEvent::Drop:
-        control_.prepare();
-        break;
-      default:
-        break;
-    }
+    const QEvent::Type type = event->type();
+    if (type == QEvent::ToolTip) return control_.showToolTip(static_cast<QHelpEvent*>(event)->globalPos());
+    if (type == QEvent::MouseMove) control_.raise(control_.onMouseMove);
+    if (type == QEvent::MouseButtonRelease) control_.raise(control_.onMouseUp);
+    const auto* use = std::ranges::find(kUses, type);
+    if (use != std::end(kUses)) control_.prepare();
     return false;
   }
 

@@ -44,9 +44,8 @@ class PictureBox : public Control {
   double scaleHeight() const;
 };
 
-/// A bar that fills, at 0 of 0 to 100 at first. A bar that is emptied is at its end: a screen reader hears
-/// its maximum from then until it fills again. A value outside `Min`..`Max` and a `Max` not above `Min`
-/// change nothing.
+/// A bar that fills, at 0 of 0 to 100 at first. To a screen reader one that is emptied is at its end. A value
+/// outside `Min`..`Max` and a `Max` not above `Min` change nothing.
 class ProgressBar : public Control {
  public:
   ProgressBar(FormWindow& form, const ControlData& data);

@@ -46,7 +46,7 @@ class Form : public FormWindow {
 };
 
 /// The members of one name on one form. An index without a member is a fault of the program; where assertions
-/// are off, it gives a spare member that nobody sees.
+/// are off, it gives a hidden spare member.
 template <class T>
 class ControlArray {
  public:

@@ -51,12 +51,14 @@ class FormWindow::Window : public FormSurface {
     event->setDropAction(Qt::CopyAction);
     event->accept();
     form_.droppedFile_ = path;
-    form_.raise(form_.onFileDrop);
+    // The desktop waits for the answer to the drop.
+    QMetaObject::invokeMethod(
+        this, [this] { form_.raise(form_.onFileDrop); }, Qt::QueuedConnection);
   }
 
   void closeEvent(QCloseEvent* event) override {
     event->ignore();
-    // In a wait too: the program's end never returns, so that nothing nests.
+    // At once, in a wait too: `unload` does not return then, so that no handler runs inside another.
     if (endsProgram_) return form_.unload();
     form_.raise(form_.onUnload, [this] { form_.unload(); });
   }

@@ -10,7 +10,7 @@
 namespace forms {
 namespace {
 
-enum class Receiver { Window, Widget };
+enum class Receiver { Window, Widget, Slider };
 
 enum class Fate {
   Kept,    ///< served after the wait, in its turn
@@ -39,8 +39,8 @@ constexpr Rule kRules[] = {
     {QEvent::Drop, Receiver::Window, Fate::Kept},
     // Composed text: dead keys and input methods.
     {QEvent::InputMethod, Receiver::Widget, Fate::Kept},
-    // A widget's timer repeats what a pressed mouse does to it, and the release may be among what is kept.
-    {QEvent::Timer, Receiver::Widget, Fate::Kept},
+    // A slider's timer repeats what a pressed mouse does to it, and the release may be among what is kept.
+    {QEvent::Timer, Receiver::Slider, Fate::Kept},
     // A key that is taken here goes to its window next, and not to a shortcut.
     {QEvent::ShortcutOverride, Receiver::Widget, Fate::Taken},
     // The mouse may have gone on from where the tip would show.
@@ -52,7 +52,8 @@ constexpr Rule kRules[] = {
 };
 
 bool isReceiver(const QObject& object, Receiver receiver) {
-  return receiver == Receiver::Window ? object.isWindowType() : object.isWidgetType();
+  if (receiver == Receiver::Window) return object.isWindowType();
+  return receiver == Receiver::Widget ? object.isWidgetType() : object.inherits("QAbstractSlider");
 }
 
 /// A mouse event as it was, at the places that it had. Taking the base over keeps the mark of what a person
@@ -83,7 +84,7 @@ class KeptDrop : public QDropEvent {
 
 /// Of a mouse that moves the last place counts. In front of a double click Qt sends a press that it marks,
 /// and that no widget gets; a copy would lose the mark.
-bool isFirstPart(const QEvent& before, const QEvent& event) {
+bool replaces(const QEvent& event, const QEvent& before) {
   if (event.type() == QEvent::MouseButtonDblClick) return before.type() == QEvent::MouseButtonPress;
   return event.type() == QEvent::MouseMove && before.type() == QEvent::MouseMove;
 }
@@ -100,7 +101,7 @@ HeldInput::HeldInput(QObject* application) : QObject(application) {
 }
 
 bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
-  if (std::exchange(served_, nullptr) == event) return false;
+  if (event == served_) return false;
   if (!holding_ && held_.empty()) return false;
   const auto* rule = std::ranges::find(kRules, event->type(), &Rule::type);
   if (rule == std::end(kRules) || !isReceiver(*watched, rule->receiver)) return false;
@@ -112,13 +113,13 @@ bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void HeldInput::keep(QObject* receiver, const QEvent& event) {
-  // A widget's timer comes again. It must not come behind a release that is yet to stop it: Qt may have given
+  // A slider's timer comes again. It must not come behind a release that is yet to stop it: Qt may have given
   // its number to the timer of a later press by then.
   const auto isReleaseOrTimer = [](const Held& held) {
     return held.event->type() == QEvent::MouseButtonRelease || held.event->type() == QEvent::Timer;
   };
   if (event.type() == QEvent::Timer && std::ranges::any_of(held_, isReleaseOrTimer)) return;
-  if (!held_.empty() && held_.back().receiver == receiver && isFirstPart(*held_.back().event, event))
+  if (!held_.empty() && held_.back().receiver == receiver && replaces(event, *held_.back().event))
     held_.pop_back();
   Held kept{receiver, copyOf(event), {}, {}, {}};
   if (const auto* mouse = dynamic_cast<const QMouseEvent*>(&event)) {
@@ -149,9 +150,16 @@ void HeldInput::serveNext() {
   if (window != nullptr && modal != nullptr && modal != window && !modal->isAncestorOf(window)) return;
   if (const auto* mouse = dynamic_cast<const QMouseEvent*>(next.event.get()))
     next.event = std::make_unique<RestoredMouseEvent>(*mouse, next.place, next.scenePlace, next.globalPlace);
+  if (const auto* drop = dynamic_cast<const QDropEvent*>(next.event.get())) {
+    // Qt may have let go of the widget under the drag meanwhile.
+    QDragEnterEvent enter(drop->position().toPoint(), drop->possibleActions(), drop->mimeData(),
+                          drop->buttons(), drop->modifiers());
+    qApp->notify(receiver, &enter);
+  }
   served_ = next.event.get();
   // `sendEvent` would take the mark off that a person's input bears.
   qApp->notify(receiver, next.event.get());
+  served_ = nullptr;
 }
 
 }  // namespace forms

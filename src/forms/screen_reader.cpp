@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QCheckBox>
+#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -84,18 +85,16 @@ class SpokenSlider : public QAccessibleWidget, public QAccessibleValueInterface 
   QSlider* slider_;
 };
 
-/// Of no size and without a look: what a screen reader says is its name.
-class Announcement : public QWidget {
- public:
-  using QWidget::QWidget;
-};
+/// Of a widget of no size, whose name a screen reader is to say.
+constexpr auto kAnnouncement = "announcement";
 
 QAccessibleInterface* makeSpoken(const QString& /*kind*/, QObject* object) {
   if (auto* surface = dynamic_cast<Surface*>(object)) return new SpokenSurface(surface);
   auto* widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr) return nullptr;
-  if (dynamic_cast<Announcement*>(widget) != nullptr)
-    return new QAccessibleWidget(widget, QAccessible::Notification);
+  if (widget->objectName() == kAnnouncement) return new QAccessibleWidget(widget, QAccessible::Notification);
+  // Qt takes the outlines of a panel for windows.
+  if (widget->metaObject() == &QFrame::staticMetaObject) return new QAccessibleWidget(widget);
   // Qt's own dialogs have buttons and sliders, too.
   if (dynamic_cast<Surface*>(widget->window()) == nullptr) return nullptr;
   if (auto* option = qobject_cast<QRadioButton*>(widget))
@@ -171,12 +170,13 @@ void tellAnnouncements(const Widgets& widgets) {
   }
   if (window == nullptr) return;
   // A reader asks for the words later on: they stay until the next ones.
-  static QPointer<Announcement> last;
+  static QPointer<QWidget> last;
   delete last;
-  last = new Announcement(window);
+  last = new QWidget(window);
+  last->setObjectName(kAnnouncement);
   last->setAccessibleName(words.join(", "));
-  QAccessibleEvent event(last, QAccessible::ObjectShow);
-  passOn(&event);
+  last->setFixedSize(0, 0);
+  last->show();
 }
 
 }  // namespace

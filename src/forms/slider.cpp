@@ -1,7 +1,7 @@
 #include "forms/slider.h"
 
-#include <QApplication>
 #include <QSlider>
+#include <QWheelEvent>
 
 #include "forms/screen_reader.h"
 #include "forms/style.h"
@@ -19,12 +19,17 @@ class SliderWidget : public QSlider {
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
-    // A notch is as many steps as it is lines in a list.
-    const int lines = QApplication::wheelScrollLines();
-    QApplication::setWheelScrollLines(1);
-    QSlider::wheelEvent(event);
-    QApplication::setWheelScrollLines(lines);
+    const QPoint turned = event->angleDelta();
+    const int delta = turned.y() != 0 ? turned.y() : turned.x();
+    if ((delta > 0) != (turnedSoFar_ > 0)) turnedSoFar_ = 0;
+    turnedSoFar_ += delta;
+    const int notches = turnedSoFar_ / QWheelEvent::DefaultDeltasPerStep;
+    turnedSoFar_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+    setValue(value() + (invertedControls() ? -notches : notches) * singleStep());
   }
+
+ private:
+  int turnedSoFar_ = 0;  ///< eighths of a degree, less than a notch
 };
 
 }  // namespace

@@ -66,7 +66,8 @@ class Style : public QProxyStyle {
     const bool isBox =
         element == PE_Frame || (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth == 0);
     // The neighbours of an option button cover its first and last row of pixels.
-    const QRect extent = isMark ? option->rect & widget->rect().adjusted(0, 1, 0, -1) : option->rect;
+    const QRect extent =
+        isMark && widget != nullptr ? option->rect & widget->rect().adjusted(0, 1, 0, -1) : option->rect;
     if (isMark || (isBox && option->state & State_HasFocus)) drawOutline(*painter, extent, QColor(kFocus));
     // Fusion only turns the edge from grey to blue, and of two buttons in a row one hides the other's edge.
     if (element == PE_PanelButtonCommand && option->state & State_HasFocus)

@@ -44,7 +44,7 @@ void MainWindow::Form_Load() {
   Slider2_change();
 }
 
-// It never returns, so that the other two are not reached.
+// `CleanUnload` never returns: the other two handlers are not reached.
 void MainWindow::Form_QueryUnload() {
   CleanUnload();
 }

@@ -1,4 +1,5 @@
-// What follows the mouse: the band marker, the lit gain labels and the tips of the low-cut buttons.
+// What follows the mouse: the band marker, the gain labels, which are lit and clicked, and the tips of the
+// low-cut buttons.
 
 #include "windows/colors.h"
 #include "windows/form1.h"

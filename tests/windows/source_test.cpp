@@ -41,6 +41,7 @@ TEST_F(Source, OneLocalFileIsTakenWhereItIsDroppedOnTheMainWindow) {
     QDropEvent drop(sourceLine, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(window, &drop);
   }
+  forms::Application::doEvents();
   EXPECT_EQ(AppState.SourcePathShort, GetShortPath(path));
   EXPECT_TRUE(Form1->Command1(3).enabled());
 }

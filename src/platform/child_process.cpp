@@ -162,11 +162,6 @@ std::size_t ChildProcess::read(char* buffer, std::size_t size) {
   return 0;
 }
 
-void ChildProcess::close() {
-  output_.close();
-  tasks_.close();
-}
-
 void ChildProcess::waitForOutput() const {
   int milliseconds = -1;
   if (tasks_.isOpen()) {

@@ -36,9 +36,6 @@ class ChildProcess {
   /// `buffer` and returns their number, 0 at the end of the output or after any failure.
   std::size_t read(char* buffer, std::size_t size);
 
-  /// Lets go of the pipe; the child runs on.
-  void close();
-
  private:
   void waitForOutput() const;
   void widenWhenDue();

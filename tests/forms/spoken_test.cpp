@@ -4,6 +4,7 @@
 
 #include "support/session.h"
 #include "windows/presets.h"
+#include "windows/source.h"
 
 namespace {
 
@@ -122,6 +123,7 @@ TEST_F(Spoken, WhatIsNewAwayFromTheFocusIsAnnouncedOnce) {
        std::initializer_list<std::tuple<forms::Control&, std::function<void()>, std::string>>{
            {Form1->Label7(0), [] { SelectPreset(3); },
             "Preview Audio, Save As, Save Preset, EQ String > Clipboard, Preset Settings: 3"},
+           {Form1->Text1, [this] { UseSource(folder.path()); }, "Source file \"" + folder.path() + "\""},
            {Form1->Command1(8), [] { Form1->Command1_Click(8); }, "Data On Clipboard"},
            {Form3->Command1(3), [] { Form3->Command1_Click(3); }, "Data On Clipboard"}}) {
     act();

@@ -49,6 +49,7 @@ TEST_F(ProfileFile, WritesOneLineAndLeavesAllOthers) {
     std::optional<std::string_view> value = "1";
   } cases[] = {
       {"", "[Preset#1]\r\nFrequency=1\r\n"},
+      {";", ";\r\n[Preset#1]\r\nFrequency=1\r\n"},
       {"; note\n\n[A]\nb=c", "; note\n\n[A]\nb=c\r\n[Preset#1]\r\nFrequency=1\r\n"},
       {"[PRESET#1]", "[PRESET#1]\r\nFrequency=1\r\n"},
       {"\xEF\xBB\xBF[PRESET#1]\nfrequency = 0", "\xEF\xBB\xBF[PRESET#1]\nFrequency=1"},

@@ -40,7 +40,11 @@ TEST_F(MainWindowTest, ReachesTheFirstIdleState) {
   EXPECT_FALSE(window->windowFlags() & Qt::WindowMaximizeButtonHint);
 }
 
-TEST_F(MainWindowTest, PlacesEveryBandWithItsNumberAndItsBar) {
+TEST_F(MainWindowTest, PlacesEveryBandWithItsNumberAndItsBarAcrossOneLine) {
+  const forms::Line& zero = Form1->Line1;
+  const std::vector<double> place{zero.x1(), zero.y1(), zero.x2(), zero.y2()};
+  EXPECT_EQ(place, (std::vector<double>{5, 83, 981, 83}));
+  EXPECT_EQ(zero.borderColor(), 0x808080U);
   for (int i = 0; i < 32; ++i) {
     EXPECT_EQ(Form1->Slider1(i).left(), 25 + 30 * i);
     EXPECT_EQ(Form1->Line4(i).y1(), 20) << i;
@@ -55,8 +59,10 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
   Form1->Slider3.setValue(254);
   Form1->Slider1(29).setValue(12);
   const auto fits = [](const auto* widget, int edges) {
+    if (widget->text().isEmpty()) return;
     const int needed = widget->fontMetrics().horizontalAdvance(widget->text()) + edges;
     EXPECT_LE(needed, widget->width()) << qPrintable(widget->text());
+    EXPECT_LE(widget->fontMetrics().ascent(), widget->height()) << qPrintable(widget->text());
   };
   Form2->Label1(1).setCaption("/a folder/" + std::string(200, 'm'));
   Form2->show(&*Form1);

@@ -22,7 +22,7 @@ class StringWindow : public support::Session {
 TEST_F(StringWindow, StandsOverItsOwnerWithEveryChainAndEmptyWhenItIsOpenedAnew) {
   EXPECT_EQ(box().window()->windowHandle()->transientParent(), windowOf(Form1->Label6)->windowHandle());
   compose();
-  forms::Application::doEvents();
+  QTest::mouseClick(box().viewport(), Qt::LeftButton);
   EXPECT_EQ(box().toPlainText(), chain());
   click(Form3->Command1(1));
   open();

@@ -127,7 +127,8 @@ TEST_F(Spoken, WhatIsNewAwayFromTheFocusIsAnnouncedOnce) {
            {Form1->Command1(8), [] { Form1->Command1_Click(8); }, "Data On Clipboard"},
            {Form3->Command1(3), [] { Form3->Command1_Click(3); }, "Data On Clipboard"}}) {
     act();
-    EXPECT_TRUE(support::waitFor([&] { return announced(control) == words; })) << announced(control);
+    const auto isSaid = [&on = control, &said = words] { return announced(on) == said; };
+    EXPECT_TRUE(support::waitFor(isSaid)) << announced(control);
   }
 }
 

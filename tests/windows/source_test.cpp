@@ -68,7 +68,7 @@ TEST_F(Source, TheDialogShowsAllNamesOpensFoldersAndClosesItsCompletions) {
     return list->model()->rowCount(list->rootIndex()) == 1;
   };
   once([] { return support::openDialog() != nullptr; },
-       [this, seen] {
+       [seen] {
          support::answer(*support::openDialog(), "sub");
          ASSERT_NE(support::openDialog(), nullptr) << "a folder is taken for a file";
          EXPECT_TRUE(support::waitFor(seen)) << "a name without a point is hidden";

@@ -26,10 +26,7 @@ class MainWindowTest : public support::Session {
 
 TEST_F(MainWindowTest, ReachesTheFirstIdleState) {
   EXPECT_EQ(Form1->caption(), "Tessavane Graphic Equalizer");
-  EXPECT_EQ(Form1->Text1.text(), "<%InputFile%>");
   EXPECT_EQ(Form1->Command1(8).caption(), " EQ String > Clipboard");
-  EXPECT_EQ(Form1->Label7(4).caption(), "Selected Frequency: 0hz");
-  EXPECT_EQ(Form1->Label7(7).caption(), "Selected Frequency Value:  0db");
   EXPECT_EQ(Form1->Slider2.value(), 5);
   for (const int button : {0, 2, 3, 6, 7, 8, 10})
     EXPECT_EQ(Form1->Command1(button).enabled(), button == 0 || button == 6 || button == 10) << button;

@@ -93,10 +93,10 @@ QAccessibleInterface* makeSpoken(const QString& /*kind*/, QObject* object) {
   auto* widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr) return nullptr;
   if (widget->objectName() == kAnnouncement) return new QAccessibleWidget(widget, QAccessible::Notification);
+  // Qt's own dialogs have buttons, sliders and frames, too.
+  if (dynamic_cast<Surface*>(widget->window()) == nullptr) return nullptr;
   // Qt takes the outlines of a panel for windows.
   if (widget->metaObject() == &QFrame::staticMetaObject) return new QAccessibleWidget(widget);
-  // Qt's own dialogs have buttons and sliders, too.
-  if (dynamic_cast<Surface*>(widget->window()) == nullptr) return nullptr;
   if (auto* option = qobject_cast<QRadioButton*>(widget))
     return new SpokenOption(option, QAccessible::RadioButton);
   if (auto* box = qobject_cast<QCheckBox*>(widget)) return new SpokenOption(box, QAccessible::CheckBox);

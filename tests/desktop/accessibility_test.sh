@@ -36,19 +36,26 @@ fi
 run_program "${surroundings[@]}"
 press "Open Source" space
 answer "$scratch/noise.wav"
+waiting="Preview Audio, Save As, Save Preset, EQ String > Clipboard"
+wait_for heard "showing 1 notification|Source file $scratch/noise.wav, $waiting|"
+# In the order of the Tab key, so that it goes around once.
 press 31.5hz Up Up
 wait_for heard "accessible-value 0 slider|31.5hz|dB|2"
 wait_for heard "accessible-name 0 label|Selected Frequency Value: 2db|"
-press "EQ String > Clipboard" space
-wait_for heard "showing 1 notification|Data On Clipboard|"
-press "FFmpeg EQ String" space
-wait_for heard "FFmpeg Equalizer String: text|Filter chain|"
-press Close Return
+press "No Preset" Down
+wait_for heard "showing 1 notification|Preset Settings: 1|"
 press "Save As" space
 answer "$folder/out.wav"
 wait_for progress_heard # Whichever value: on a busy machine the bar has gone on before it is asked.
 press Close Return
-heard "Tessavane Graphic Equalizer: slider|Gain|%|100" || fail "the controls of the main window were not told"
+press "FFmpeg EQ String" space
+wait_for heard "FFmpeg Equalizer String: text|Filter chain|"
+press Close Return
+press "EQ String > Clipboard" space
+wait_for heard "showing 1 notification|Data On Clipboard|"
+for control in "slider|Gain|%|100" "radio button|plus or minus 12 dB|"; do
+  heard "Tessavane Graphic Equalizer: $control" || fail "the main window was told without $control"
+done
 names=$(grep '^[^|]*: ' "$scratch/heard" | cut -d'|' -f1,2 | sort)
 expect "controls without a name of their own" "" "$(grep '|$' <<<"$names"; uniq -d <<<"$names")"
 press Exit space

@@ -10,8 +10,8 @@ end_program() {
   case $1 in
     Exit) click_at "${exit_button[@]}" ;;
     close) close_window ;;
+    TERM) kill "$running" ;;
     server) kill "${started[0]}" ;;
-    *) kill -s "$1" "$running" ;;
   esac
 }
 
@@ -30,7 +30,7 @@ minimised_window_counts() {
 }
 
 start_desktop
-ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
+ffmpeg -v error -f lavfi -i anoisesrc=d=2:seed=1 "$source_file"
 
 for running_tool in ffprobe ffplay; do
   real_tool ffprobe
@@ -51,7 +51,7 @@ in_background bash -c "exec /usr/bin/python3 '$(dirname "$0")/clipboard_manager.
 real_tool ffprobe
 mkfifo "$scratch/begin"
 tool ffmpeg <<<": <'$scratch/begin'; exec $(command -v ffmpeg) -re \"\$@\""
-for ending in close Exit TERM HUP server; do
+for ending in close Exit TERM server; do
   # Were the theme of the desktop loaded, its file dialogs could crash.
   start_program LC_ALL=de_DE.UTF-8 QT_QPA_PLATFORMTHEME=qt6ct
   grep -q libqt6ct "/proc/$running/maps" && fail "the theme of the desktop is loaded"

@@ -32,13 +32,15 @@ inline void compareBand(Differences& differences, int i, int limit) {
   for (const double x : {bar.x1(), bar.x2()})
     differences.compare("place of the bar" + name, x, band.left() - 5);
   differences.compare("bar shown" + name, bar.visible(), Form1->Check1.value() == 1);
-  const std::string turned = value < 0 ? std::to_string(-value) : "-" + std::to_string(value);
-  const double length = bar.y1() - bar.y2();
   // A band that was never moved is at 0: its bar is as it was made, and until it is composed its text has no
   // sign.
-  const bool isAsMade = value == 0 && length == 20 - band.height();
-  if (!isAsMade) differences.compare("length of the bar" + name, length, value * 60.0 / limit);
-  if (!isAsMade || text != "0") differences.compare("text" + name, text, turned);
+  if (value == 0 && bar.y1() == 20) return;
+  const int boost = -value * 12 / limit;
+  differences.compare("text" + name, text, (value < 0 ? "" : "-") + std::to_string(std::abs(value)));
+  differences.compare("foot of the bar" + name, bar.y2(), Form1->Line1.y1());
+  differences.compare("length of the bar" + name, bar.y2() - bar.y1(), boost * 5);
+  differences.compare("colour of the bar" + name, bar.borderColor(),
+                      boost > 10 ? 0xFFU : (boost > 5 ? 0x80FFFFU : 0x80FF80U));
 }
 
 /// The chain as it follows from captions, width and gains, with a comma behind each filter. It follows each
@@ -88,6 +90,9 @@ inline std::string outOfStep() {
   }
   differences.compare("AudioGain", AppState.AudioGain, gain / 5.0);
   differences.compare("length of the gain bar", Form1->Line10.x1() - Form1->Line10.x2(), gain * 12.5);
+  const bool isRed = gain < 1 || gain > 7;
+  differences.compare("colour of the gain bar", Form1->Line10.borderColor(),
+                      isRed ? 0xFFU : (gain > 5 ? 0x80FFFFU : 0x80FF80U));
   differences.compare("BandWidth", AppState.BandWidth, Form1->Slider3.value());
   return differences.text();
 }

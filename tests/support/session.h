@@ -66,9 +66,9 @@ class Session : public testing::Test {
 
   /// Notes `name` in `events` each time before the event's handler runs.
   void record(forms::Event& event, const std::string& name) {
-    event = [this, name, handler = event.handler()](int index) {
+    event = [this, name, before = event](int index) {
       events += name;
-      handler(index);
+      before(index);
     };
   }
 

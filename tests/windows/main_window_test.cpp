@@ -2,14 +2,11 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPixmap>
 
 #include "support/session.h"
 
 namespace {
 
-constexpr forms::Color kGreen = 0x80FF80;
-constexpr forms::Color kYellow = 0x80FFFF;
 constexpr forms::Color kRed = 0xFF;
 constexpr forms::Color kBlue = 0xFF0000;
 
@@ -66,27 +63,11 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
   Form3->show(&*Form1);
   click(Form3->Command1(3));
   for (QWidget* each : QApplication::topLevelWidgets()) {
-    const QPixmap picture = each->grab();
+    each->grab();
     for (const auto* label : each->findChildren<QLabel*>()) fits(label, 0);
     for (const auto* button : each->findChildren<QAbstractButton*>())
       fits(button, button->isCheckable() ? 18 : 8);
-    if (const QString factor = qgetenv("QT_SCALE_FACTOR"); !factor.isEmpty())
-      picture.save(each->objectName() + "_at_" + factor + ".png");
   }
-}
-
-TEST_F(MainWindowTest, NarrowsACaptionThatDoesNotFit) {
-  forms::Label& caption = Form1->Label8(3);
-  const auto needed = [&] {
-    caption.widget()->grab();
-    return caption.widget()->fontMetrics().horizontalAdvance(QString::fromStdString(caption.caption()));
-  };
-  const std::string before = caption.caption();
-  caption.setCaption(before + " and a bit more");
-  EXPECT_LE(needed(), caption.widget()->width());
-  caption.setCaption(before);
-  EXPECT_LE(needed(), caption.widget()->width());
-  EXPECT_EQ(caption.widget()->font().stretch(), Form1->Label8(1).widget()->font().stretch());
 }
 
 /// The name of a box stands for that option button in it that takes the focus.
@@ -104,34 +85,25 @@ TEST_F(MainWindowTest, TabsWalkTheStoredOrderFromTheFirstButton) {
   EXPECT_EQ(order.toStdString(), expected.toStdString());
 }
 
-TEST_F(MainWindowTest, ShowsABandWithItsBarAndColourAlsoWhileBarsAreHidden) {
-  const std::tuple<int, int, std::string, forms::Color> rows[] = {
-      {0, -5, "5db", kGreen},  {0, -6, "6db", kYellow},  {0, -10, "10db", kYellow},
-      {0, -11, "11db", kRed},  {0, 12, "-12db", kGreen}, {1, -2, "2db", kGreen},
-      {1, -3, "3db", kYellow}, {1, -5, "5db", kYellow},  {1, -6, "6db", kRed}};
+TEST_F(MainWindowTest, ShowsEachPositionOfABandAndOfTheGainAlsoWhileBarsAreHidden) {
+  forms::Slider& band = Form1->Slider1(19);
+  for (int gain = -10; gain <= 10; ++gain) {
+    Form1->Slider2.setValue(gain);
+    EXPECT_EQ(support::outOfStep(), "");
+  }
+  EXPECT_EQ(AppState.EqString, "") << "the gain composes";
   click(Form1->Check1);
-  for (const auto& [range, value, text, color] : rows) {
-    click(Form1->Option2(1 - range));
+  for (const int range : {1, 0}) {
+    band.setValue(3);
     click(Form1->Option2(range));
-    EXPECT_EQ(Form1->Slider1(19).value(), 0) << "not put to 0";
-    Form1->Slider1(19).setValue(value);
-    EXPECT_EQ(support::outOfStep(), "");
+    EXPECT_EQ(band.value(), 0) << "not put to 0";
+    for (int value = band.max(); value >= band.min(); --value) {
+      band.setValue(value);
+      EXPECT_EQ(support::outOfStep(), "");
+    }
     EXPECT_EQ(Form1->Label7(4).caption(), "Selected Frequency: 1.25K");
-    EXPECT_EQ(Form1->Label7(7).caption(), "Selected Frequency Value: " + text);
-    EXPECT_EQ(Form1->Line4(19).y2(), Form1->Line1.y1());
-    EXPECT_EQ(Form1->Line4(19).borderColor(), color) << text << " in range " << range;
+    EXPECT_EQ(Form1->Label7(7).caption(), "Selected Frequency Value: " + std::to_string(band.max()) + "db");
   }
-}
-
-TEST_F(MainWindowTest, ShowsTheGainWhichComposesNothing) {
-  const std::pair<int, forms::Color> gains[] = {{-10, kRed},  {0, kRed},    {1, kGreen}, {5, kGreen},
-                                                {6, kYellow}, {7, kYellow}, {8, kRed}};
-  for (const auto& [value, color] : gains) {
-    Form1->Slider2.setValue(value);
-    EXPECT_EQ(support::outOfStep(), "");
-    EXPECT_EQ(Form1->Line10.borderColor(), color) << value;
-  }
-  EXPECT_EQ(AppState.EqString, "");
 }
 
 TEST_F(MainWindowTest, TheClipboardButtonTellsOfACopyUntilTheNextChange) {

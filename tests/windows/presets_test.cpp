@@ -62,6 +62,9 @@ TEST_F(Presets, LinesThatNoSaveWroteSetWhatTheyHold) {
       {"99:-99:" + digits + ":-" + digits, {0, 1, -4, 200, 12, -12, 12, -12, 7}},
       {"RANGE=7:7:lowcut=0:bandwidth=9999:audiogain=4000", {0, 0, 10, 254, 3, 7, 5}},
       {"BandWidth=000:AudioGain=-999", {0, 1, -10, 1, 3}},
+      {"AudioGain= 69", {0, 1, 3, 200, 3}},
+      {"AudioGain=+70", {0, 1, 4, 200, 3}},
+      {"AudioGain=1e99", {0, 1, 10, 200, 3}},
       {"BandWidth=x:AudioGain=inf:7:Range=", {0, 1, -4, 200, 3, 4, 7, 6}}};
   for (const auto& [line, expected] : rows) {
     set(0, 1, -4, 200, 3);

@@ -18,17 +18,24 @@ class Render : public support::Session {
   }
 
   void fakeRender(const std::string& script) { support::writeScript(folder, "ffmpeg", script); }
+
   static bool isFinished() { return Form2.isLoaded() && !Form2->Timer1.enabled(); }
 
-  /// Renders into `path` and waits for the end of the run.
+  /// Answers "Save As" and has the render begin at once, not a second later.
+  void begin(const std::string& path) {
+    saveAs(path);
+    windowOf(Form2->PBar)->findChild<QTimer*>()->setInterval(0);
+  }
+
+  /// Renders into `path` in a window of its own and waits for the end of the run.
   void render(const std::string& path) {
     Form2.unload();
-    saveAs(path);
+    begin(path);
     ASSERT_TRUE(support::waitFor(isFinished)) << path;
   }
 
   /// Renders into `path` with a tool that writes "data" and goes on until `act` has been called in between; a
-  /// second run of the tool ends at once. Waits for the end of the first one.
+  /// second run of the tool ends at once.
   void renderMeanwhile(const std::string& path, const std::function<void()>& act) {
     fakeRender(R"(for last; do :; done
         exec 3> "$last"
@@ -36,16 +43,14 @@ class Render : public support::Session {
         echo run >> "$0.runs"
         second=$(sed 1d "$0.runs")
         until [ -n "$second" ] || [ -e "$0.go" ]; do echo time=00:00:09; sleep 0.02; done
-        printf " of the ${second:-first run}" >&3
-        [ -n "$second" ] || echo > "$0.done")");
-    const auto runs = [this] { return fs::exists(folder.file("ffmpeg.runs")); };
-    once(runs, [this, act] {
-      act();
-      support::writeText(folder, "ffmpeg.go", "");
-    });
-    saveAs(path);
-    EXPECT_TRUE(support::waitFor([this] { return fs::exists(folder.file("ffmpeg.done")); }));
-    EXPECT_TRUE(support::waitFor([] { return !Form2.isLoaded() || isFinished(); }));
+        printf " of the ${second:-first run}" >&3)");
+    once([this] { return fs::exists(folder.file("ffmpeg.runs")); },
+         [this, act] {
+           act();
+           support::writeText(folder, "ffmpeg.go", "");
+         });
+    begin(path);
+    EXPECT_TRUE(support::waitFor([this] { return fs::exists(folder.file("ffmpeg.go")); }));
   }
 
   const std::string source;

@@ -65,16 +65,16 @@ void FormSurface::prepare() {
 void FormSurface::centreOn(const FormSurface* owner) {
   if (owner != nullptr) setScreen(owner->screen());
   centre_ = (owner != nullptr ? owner->geometry() + frameOf(*owner) : screen()->availableGeometry()).center();
-  centre();
+  moveCentre(*centre_);
   if (owner == nullptr) return;
   winId();
   windowHandle()->setTransientParent(owner->windowHandle());
 }
 
 /// As far as the screen goes.
-void FormSurface::centre() {
+void FormSurface::moveCentre(const QPoint& middle) {
   QRect place({0, 0}, outerSize());
-  place.moveCenter(*centre_);
+  place.moveCenter(middle);
   const QRect area = screen()->availableGeometry();
   place.moveRight(std::min(place.right(), area.right()));
   place.moveBottom(std::min(place.bottom(), area.bottom()));
@@ -103,7 +103,7 @@ void FormSurface::adjust() {
   if (own.isNull()) return;
   if (own != frame_) {
     fit(assigned_, own);
-    if (centre_) centre();
+    if (centre_) moveCentre(*centre_);
   }
   // From now on the window stands where the user wants it.
   centre_.reset();

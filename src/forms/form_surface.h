@@ -36,7 +36,7 @@ class FormSurface : public Surface {
  private:
   QSize wantedSize() const;
   void fit(QSize assigned, QMargins frame);
-  void centre();
+  void moveCentre(const QPoint& middle);
   void adjust();
   void leaveFullScreen();
   void followWindow();

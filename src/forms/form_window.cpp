@@ -52,8 +52,8 @@ class FormWindow::Window : public FormSurface {
     event->accept();
     form_.droppedFile_ = path;
     // The desktop waits for the answer to the drop.
-    QMetaObject::invokeMethod(
-        this, [this] { form_.raise(form_.onFileDrop); }, Qt::QueuedConnection);
+    const auto tell = [this] { form_.raise(form_.onFileDrop); };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
   }
 
   void closeEvent(QCloseEvent* event) override {
@@ -153,9 +153,8 @@ void FormWindow::unload() {
 
 void FormWindow::destroyLater(FormWindow* form) {
   // The last reference can go inside an event of one of the form's own widgets.
-  if (qApp != nullptr)
-    QMetaObject::invokeMethod(
-        qApp, [form] { delete form; }, Qt::QueuedConnection);
+  const auto destroy = [form] { delete form; };
+  if (qApp != nullptr) QMetaObject::invokeMethod(qApp, destroy, Qt::QueuedConnection);
 }
 
 }  // namespace forms

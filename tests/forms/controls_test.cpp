@@ -51,14 +51,4 @@ TEST_F(Controls, ShowTextAsItIs) {
   EXPECT_TRUE(QKeySequence::mnemonic(button->text()).isEmpty());
 }
 
-TEST_F(Controls, AnUnloadThatUnloadsAgainIsToldOnce) {
-  Form3->onQueryUnload = [](int) { Form3.unload(); };
-  record(Form3->onQueryUnload, "Q");
-  record(Form3->onUnload, "U");
-  Form3->show(&*Form1);
-  windowOf(Form3->Text1)->close();
-  EXPECT_EQ(events, "QU");
-  EXPECT_FALSE(Form3.isLoaded());
-}
-
 }  // namespace

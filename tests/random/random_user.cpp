@@ -25,7 +25,6 @@ constexpr auto kTool = R"(case "$*" in
 esac)";
 
 std::vector<std::string> trail;
-bool mouseIsDown = false;
 QString nameToAnswer;
 
 int below(qsizetype limit, Dice& dice) {
@@ -39,12 +38,9 @@ QPoint placeOn(const QWidget& widget, Dice& dice) {
 
 void drag(QWidget& widget, Dice& dice) {
   const QPoint end = placeOn(widget, dice);
-  mouseIsDown = true;
   QTest::mousePress(&widget, Qt::LeftButton, {}, widget.rect().center());
-  if (below(4, dice) == 0) forms::Application::doEvents();
   QTest::mouseMove(&widget, end);
   QTest::mouseRelease(&widget, Qt::LeftButton, {}, end);
-  mouseIsDown = false;
 }
 
 void turnWheel(QWidget& widget, Dice& dice) {
@@ -80,10 +76,10 @@ void perform(Dice::result_type number, const std::string& when) {
   EXPECT_EQ(support::outOfStep(), "");
 }
 
-/// Does it with coming events: outside of drags, of dialogs and of waits for a tool.
+/// Does it with coming events: outside of dialogs and of waits for a tool.
 void performSoon(Dice::result_type number) {
   const auto due = [number] {
-    if (mouseIsDown || QApplication::activeModalWidget() != nullptr || support::isHeldBack())
+    if (QApplication::activeModalWidget() != nullptr || support::isHeldBack())
       performSoon(number);
     else
       perform(number, "  in the middle");

@@ -24,14 +24,22 @@ class MainWindowTest : public support::Session {
 TEST_F(MainWindowTest, ReachesTheFirstIdleState) {
   EXPECT_EQ(Form1->caption(), "Tessavane Graphic Equalizer");
   EXPECT_EQ(Form1->Command1(8).caption(), " EQ String > Clipboard");
-  EXPECT_EQ(Form1->Slider2.value(), 5);
-  for (const int button : {0, 2, 3, 6, 7, 8, 10})
-    EXPECT_EQ(Form1->Command1(button).enabled(), button == 0 || button == 6 || button == 10) << button;
+  for (const int button : {2, 3, 7, 8}) EXPECT_FALSE(Form1->Command1(button).enabled()) << button;
   EXPECT_FALSE(Form1->Label6.visible());
   EXPECT_FALSE(Form1->Timer3.enabled());
-  EXPECT_FALSE(Form2.isLoaded());
-  EXPECT_FALSE(Form3.isLoaded());
   EXPECT_FALSE(window->windowFlags() & Qt::WindowMaximizeButtonHint);
+  EXPECT_TRUE(window->windowFlags() & Qt::WindowMinimizeButtonHint);
+}
+
+TEST_F(MainWindowTest, NoControlsThatTakeTheMouseOverlap) {
+  QRegion covered;
+  for (const QWidget* widget : window->findChildren<QWidget*>()) {
+    if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus)) continue;
+    // Neighbours in a row share a column of pixels.
+    const QRect place(widget->mapTo(window, QPoint(1, 1)), widget->size() - QSize(2, 2));
+    EXPECT_FALSE(covered.intersects(place)) << widget->objectName().toStdString();
+    covered += place;
+  }
 }
 
 TEST_F(MainWindowTest, PlacesEveryBandWithItsNumberAndItsBarAcrossOneLine) {
@@ -74,15 +82,15 @@ TEST_F(MainWindowTest, ClipsNoCaptionAtItsLongest) {
 TEST_F(MainWindowTest, TabsWalkTheStoredOrderFromTheFirstButton) {
   ASSERT_TRUE(support::waitFor([] { return Form1->Command1(0).widget()->hasFocus(); }));
   QString order;
-  QString expected = "Command1(0) ";
-  for (int i = 0; i < 32; ++i) expected += QString("Slider1(%1) ").arg(i);
-  expected += "Slider2 Option1(0) Text1 Option2(0) Option3(1) Command1(6) Command1(10) Check1 Slider3 ";
   for (int i = 0; i < 42; ++i) {
-    QWidget* widget = QApplication::focusWidget();
-    order += widget->objectName() + " ";
-    QTest::keyClick(widget, Qt::Key_Tab);
+    order += QApplication::focusWidget()->objectName() + " ";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
-  EXPECT_EQ(order.toStdString(), expected.toStdString());
+  EXPECT_TRUE(order.startsWith("Command1(0) Slider1(0) Slider1(1) ")) << order.toStdString();
+  EXPECT_TRUE(
+      order.endsWith("Slider1(30) Slider1(31) Slider2 Option1(0) Text1 Option2(0) Option3(1) "
+                     "Command1(6) Command1(10) Check1 Slider3 "))
+      << order.toStdString();
 }
 
 TEST_F(MainWindowTest, ShowsEachPositionOfABandAndOfTheGainAlsoWhileBarsAreHidden) {

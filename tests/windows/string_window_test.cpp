@@ -42,7 +42,7 @@ TEST_F(StringWindow, MovesItsControlsWithItsSize) {
   }
 }
 
-TEST_F(StringWindow, ListsOneFilterALine) {
+TEST_F(StringWindow, ListsOneFilterALineAndWorksForLongerTheLongerTheTextIs) {
   click(Form3->Command1(2));
   EXPECT_EQ(Form3->caption(), kForm3Data.caption) << "an empty box";
   compose();
@@ -50,10 +50,14 @@ TEST_F(StringWindow, ListsOneFilterALine) {
     events += Form3->caption();
     EXPECT_FALSE(Form3->Command1(0).enabled() || Form3->Text1.enabled());
   };
-  for (int i = 0; i < 2; ++i) {
-    click(Form3->Command1(2));
-    EXPECT_EQ(Form3->Text1.text(), listed());
-  }
+  int passes = 0;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&passes] { ++passes; });
+  watch.start(0);
+  click(Form3->Command1(2));
+  EXPECT_GE(passes, chain().size());
+  click(Form3->Command1(2));
+  EXPECT_EQ(Form3->Text1.text(), listed());
   EXPECT_EQ(events, "Working...");
   EXPECT_TRUE(Form3->Text1.enabled() && Form3->Command1(0).enabled());
 }

@@ -27,7 +27,7 @@ HeldInput* heldInput = nullptr;
 bool ended = false;
 
 struct Deferred {
-  const Event* event;
+  const Event* event = nullptr;
   std::function<void()> action;
 };
 

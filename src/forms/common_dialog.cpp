@@ -74,8 +74,7 @@ void CommonDialog::show(bool save) {
   const QPointer<QWidget> before = QApplication::activeWindow();
   NameDialog dialog(&form().surface(""));
   dialog.setWindowTitle(toQt(title_));
-  // In its own mode for saving the dialog would change the typed name with the filter.
-  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  // Nothing but the word: in its own mode for saving the dialog would change the typed name with the filter.
   if (save) dialog.setLabelText(QFileDialog::Accept, "Save");
   const QStringList filters = nameFilters(toQt(filter_));
   dialog.setNameFilters(filters);

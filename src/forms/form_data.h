@@ -85,12 +85,12 @@ struct ControlData {
 /// One line on the surface of its container. The ends are in twips in the form data and in the container's
 /// scale from then on, `borderWidth` is in pixels.
 struct LineData {
-  const char* name;
-  int index;
-  const char* container;
-  double x1, y1, x2, y2;
-  Color color;
-  int borderWidth;
+  const char* name = "";
+  int index = 0;
+  const char* container = "";
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  Color color = 0;
+  int borderWidth = 1;
   bool visible = true;
 };
 

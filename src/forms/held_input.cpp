@@ -20,8 +20,8 @@ enum class Fate {
 
 struct Rule {
   QEvent::Type type;
-  Receiver receiver;
-  Fate fate;
+  Receiver receiver = Receiver::Window;
+  Fate fate = Fate::Kept;
 };
 
 /// What becomes of an event in a wait. All others go through: the desktop's (painting, sizes, states, focus),

@@ -172,10 +172,12 @@ void tellAnnouncements(const Widgets& widgets) {
   // A reader asks for the words later on: they stay until the next ones.
   static QPointer<QWidget> last;
   delete last;
-  last = new QWidget(window);
+  last = new QWidget;
   last->setObjectName(kAnnouncement);
   last->setAccessibleName(words.join(", "));
   last->setFixedSize(0, 0);
+  // Last of all: from Qt 6.11 on a window's new child is described at once.
+  last->setParent(window);
   last->show();
 }
 

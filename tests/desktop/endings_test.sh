@@ -30,7 +30,7 @@ minimised_window_counts() {
 }
 
 start_desktop
-ffmpeg -v error -f lavfi -i anoisesrc=d=2:seed=1 "$source_file"
+ffmpeg -v error -f lavfi -i anoisesrc=d=4:seed=1 "$source_file"
 
 for running_tool in ffprobe ffplay; do
   real_tool ffprobe

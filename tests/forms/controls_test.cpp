@@ -24,6 +24,11 @@ TEST_F(Controls, AClickByHandOnAChosenOptionCountsInThePresetsAlone) {
   EXPECT_EQ(events, "PPrR");
 }
 
+TEST_F(Controls, AnOptionThatIsSetToFalseLeavesItsGroupEmpty) {
+  Form1->Option1(0).setValue(false);
+  EXPECT_FALSE(Form1->Option1(0).value());
+}
+
 TEST_F(Controls, ArrowKeysWalkThePresetsInOrderAndStopAtTheEnds) {
   for (int i = 0; i <= 6; ++i) record(Form1->Option1(i).onClick, std::to_string(i));
   ASSERT_TRUE(support::waitFor([] { return QApplication::focusWidget() != nullptr; }));

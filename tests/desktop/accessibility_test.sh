@@ -44,6 +44,7 @@ wait_for heard "accessible-value 0 slider|31.5hz|dB|2"
 wait_for heard "accessible-name 0 label|Selected Frequency Value: 2db|"
 press "No Preset" Down
 wait_for heard "showing 1 notification|Preset Settings: 1|"
+wait_for heard "accessible-value 0 slider|19hz|dB|-1" # What a preset that was never saved sets.
 press "Save As" space
 answer "$folder/out.wav"
 wait_for progress_heard # Whichever value: on a busy machine the bar has gone on before it is asked.

@@ -16,6 +16,7 @@ constexpr QRgb kFocus = 0xFF104E9E;
 
 QPalette lightPalette() {
   QPalette palette{QColor(kFace)};
+  palette.setColor(QPalette::Base, Qt::white);  // Qt would paint a disabled box grey.
   palette.setColor(QPalette::Highlight, QColor(kFocus));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, QColor(0xFFFFE1));

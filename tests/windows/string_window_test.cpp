@@ -51,6 +51,7 @@ TEST_F(StringWindow, ListsOneFilterALineAndWorksForLongerTheLongerTheTextIs) {
   Form3->Text1.onChange = [this](int) {
     events += Form3->caption();
     EXPECT_FALSE(Form3->Command1(0).enabled() || Form3->Text1.enabled());
+    EXPECT_EQ(box().palette().color(QPalette::Base).name(), "#ffffff");
   };
   int passes = 0;
   QTimer watch;

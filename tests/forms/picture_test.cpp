@@ -40,8 +40,7 @@ TEST_F(Picture, ShowsTheScaleAcrossTheBarOfTheFirstBandAndTheMarkerBelowTheNumbe
 
 TEST_F(Picture, ShowsABarInItsColour) {
   Form1->Slider1(3).setValue(-7);
-  const QRect slider = placeOf(Form1->Slider1(3));
-  const QPoint onBar(slider.left() - 5, slider.center().y() - 20);
+  const QPoint onBar = placeOf(Form1->Slider1(3)).center() - QPoint(14, 20);
   EXPECT_EQ(shown(*windowOf(Form1->Label6)).pixelColor(onBar).name(), "#ffff80");
 }
 

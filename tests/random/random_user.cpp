@@ -51,8 +51,9 @@ void turnWheel(QWidget& widget, Dice& dice) {
 void sizeWindow(QWidget& window, Dice& dice) {
   if (below(10, dice) == 0) return window.showMinimized();
   window.showNormal();
+  const int width = below(2000, dice);
   // No person can give another size to a window that has but one.
-  if (window.minimumSize() != window.maximumSize()) window.resize(below(2000, dice), below(2000, dice));
+  if (window.minimumSize() != window.maximumSize()) window.resize(width, below(2000, dice));
 }
 
 void perform(Dice::result_type number, const std::string& when) {
@@ -124,12 +125,18 @@ TEST_F(RandomUser, LeavesAllInOrder) {
   for (int step = 1; step <= steps && !HasFailure(); ++step) {
     if (below(3, numbers) == 0) performSoon(numbers());
     perform(numbers(), std::to_string(step));
+    if (Form2.isLoaded()) {
+      Form2->Timer1.onTick = [inRender = numbers()](int) {
+        performSoon(inRender);
+        Form2->Timer1_Timer();
+      };
+      hastenRender();
+    }
     forms::Application::doEvents();
     EXPECT_TRUE(support::waitFor([&] { return atRest() == before; })) << atRest() << " instead of " << before;
   }
   if (!HasFailure()) return;
-  for (std::size_t i = trail.size() - std::min<std::size_t>(trail.size(), 30); i < trail.size(); ++i)
-    std::cout << trail[i] << "\n";
+  for (const std::string& action : trail) std::cout << action << "\n";
 }
 
 }  // namespace

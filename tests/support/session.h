@@ -98,6 +98,8 @@ class Session : public testing::Test {
   }
   void openSource(const std::string& path) { clickAndAnswer(Form1->Command1(0), path); }
   void saveAs(const std::string& path) { clickAndAnswer(Form1->Command1(3), path); }
+  /// Has the render of the open progress window begin at once, not a second later.
+  static void hastenRender() { windowOf(Form2->PBar)->findChild<QTimer*>()->setInterval(0); }
 
   OwnFolder folder;
   std::string events;

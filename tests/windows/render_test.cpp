@@ -21,16 +21,11 @@ class Render : public support::Session {
 
   static bool isFinished() { return Form2.isLoaded() && !Form2->Timer1.enabled(); }
 
-  /// Answers "Save As" and has the render begin at once, not a second later.
-  void begin(const std::string& path) {
-    saveAs(path);
-    windowOf(Form2->PBar)->findChild<QTimer*>()->setInterval(0);
-  }
-
   /// Renders into `path` in a window of its own and waits for the end of the run.
   void render(const std::string& path) {
     Form2.unload();
-    begin(path);
+    saveAs(path);
+    hastenRender();
     ASSERT_TRUE(support::waitFor(isFinished)) << path;
   }
 
@@ -49,7 +44,8 @@ class Render : public support::Session {
            act();
            support::writeText(folder, "ffmpeg.go", "");
          });
-    begin(path);
+    saveAs(path);
+    hastenRender();
     EXPECT_TRUE(support::waitFor([this] { return fs::exists(folder.file("ffmpeg.go")); }));
   }
 

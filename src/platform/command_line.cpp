@@ -68,15 +68,8 @@ std::string quoteArgument(std::string_view argument) {
   return quoted + '"';
 }
 
-std::string quotedPath(const std::string& path) {
-  std::error_code error;
-  if (!std::filesystem::exists(path, error)) return {};
-  const std::string absolute = std::filesystem::absolute(path, error).string();
-  return error ? std::string() : quoteArgument(absolute);
-}
-
-std::string unquotedPath(std::string_view quoted) {
-  std::vector<std::string> arguments = splitArguments(quoted);
+std::string firstArgument(std::string_view commandLine) {
+  std::vector<std::string> arguments = splitArguments(commandLine);
   return arguments.empty() ? std::string() : std::move(arguments.front());
 }
 

@@ -16,12 +16,8 @@ std::vector<std::string> splitArguments(std::string_view commandLine);
 /// has no blank, tab or double quote, else in double quotes with inner quotes doubled.
 std::string quoteArgument(std::string_view argument);
 
-/// The absolute path of an existing file as one argument of a command line (see `quoteArgument`). Empty where
-/// the file does not exist.
-std::string quotedPath(const std::string& path);
-
-/// The path that `quotedPath` was given, made absolute. Empty for an empty text.
-std::string unquotedPath(std::string_view quoted);
+/// The first argument of `commandLine`, such as the path in a quoted one. Empty where there is none.
+std::string firstArgument(std::string_view commandLine);
 
 /// A command line taken apart for a process start.
 struct Command {

@@ -23,10 +23,10 @@ bool writeFile(const std::string& path, std::string_view content) {
   return file.isOpen() && writeAll(file, content) && file.close();
 }
 
-void removeFile(const std::string& path) {
+bool removeFile(const std::string& path) {
   std::error_code error;
   const std::filesystem::path file = std::filesystem::canonical(path, error);
-  if (!error && std::filesystem::is_regular_file(file, error)) std::filesystem::remove(file, error);
+  return !error && std::filesystem::is_regular_file(file, error) && std::filesystem::remove(file, error);
 }
 
 }  // namespace platform

@@ -13,8 +13,8 @@ bool sameFile(const std::string& one, const std::string& other);
 /// named pipe.
 bool writeFile(const std::string& path, std::string_view content);
 
-/// Takes its name from a regular file, or from the one that a symbolic link leads to; who has it open keeps
-/// it, and the link stays. Nothing happens where that fails, nor to whatever is no regular file.
-void removeFile(const std::string& path);
+/// Removes the name of a regular file, or of the one that a symbolic link leads to; whoever has the file open
+/// keeps it, and the link stays. False where that fails, and for whatever is no regular file.
+bool removeFile(const std::string& path);
 
 }  // namespace platform

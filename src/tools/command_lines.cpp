@@ -2,6 +2,8 @@
 
 #include <array>
 #include <charconv>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/command_line.h"
 
@@ -21,7 +23,10 @@ std::string gainText(double gain) {
 }
 
 std::string GetShortPath(const std::string& LongPath) {
-  return platform::quotedPath(LongPath);
+  std::error_code error;
+  if (!std::filesystem::exists(LongPath, error)) return {};
+  const std::string absolute = std::filesystem::absolute(LongPath, error).string();
+  return error ? std::string() : platform::quoteArgument(absolute);
 }
 
 std::string probeCommand(const std::string& folder, const AppStateRecord& state) {

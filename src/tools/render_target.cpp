@@ -5,6 +5,7 @@
 
 #include "platform/command_line.h"
 #include "platform/files.h"
+#include "platform/program_folder.h"
 #include "tools/command_lines.h"
 
 namespace {
@@ -24,7 +25,8 @@ FileUse useOf(const std::string& path, const AppStateRecord& state) {
   const auto is = [&path](const std::string& other) { return platform::sameFile(path, other); };
   const auto isRead = [&is](const RenderedFiles& files) { return is(files.source); };
   const auto isWritten = [&is](const RenderedFiles& files) { return is(files.target); };
-  if (is(platform::unquotedPath(state.SourcePathShort)) || std::ranges::any_of(running, isRead))
+  if (is(platform::firstArgument(state.SourcePathShort)) || std::ranges::any_of(running, isRead) ||
+      is(platform::nativePath(state.PresetFilePath)))
     return FileUse::Input;
   return std::ranges::any_of(running, isWritten) ? FileUse::Output : FileUse::None;
 }
@@ -38,17 +40,18 @@ std::string makeTarget(const std::string& path, const AppStateRecord& state) {
 }
 
 void claimTarget(AppStateRecord& state) {
-  const std::string target = platform::unquotedPath(state.SavePathShort);
+  const std::string target = platform::firstArgument(state.SavePathShort);
   const FileUse use = useOf(target, state);
-  if (use == FileUse::Input) state.SavePathShort.clear();
-  if (use != FileUse::Output) return;
-  platform::removeFile(target);
-  platform::writeFile(target, kMarker);
+  if (use == FileUse::None) return;
+  if (use == FileUse::Output && platform::removeFile(target))
+    platform::writeFile(target, kMarker);
+  else
+    state.SavePathShort.clear();
 }
 
 RunningRender::RunningRender(const AppStateRecord& state) {
   running.push_back(
-      {platform::unquotedPath(state.SourcePathShort), platform::unquotedPath(state.SavePathShort)});
+      {platform::firstArgument(state.SourcePathShort), platform::firstArgument(state.SavePathShort)});
 }
 
 RunningRender::~RunningRender() {

@@ -8,12 +8,12 @@
 /// What a file is in use for.
 enum class FileUse {
   None,
-  Input,   ///< the source, or that of a render that still runs
+  Input,   ///< the source, that of a render that still runs, or the preset file
   Output,  ///< a running render writes it
 };
 
-/// The use of the file at `path`, by whatever name and links; None where there is no such file. The source is
-/// that of `state`.
+/// The use of the file at `path`, by whatever name and links; None where there is no such file. The source
+/// and the preset file are those of `state`.
 FileUse useOf(const std::string& path, const AppStateRecord& state);
 
 /// Makes the file at `path` exist, since only an existing file has a short path, and returns that path:
@@ -22,9 +22,10 @@ FileUse useOf(const std::string& path, const AppStateRecord& state);
 /// can be made.
 std::string makeTarget(const std::string& path, const AppStateRecord& state);
 
-/// Called just before a render starts: what became of its target since it was made. A target that is an input
-/// by now is taken out of `state`. From the output of a running render the name is taken, which then writes
-/// on into a file without a name, and a new file is made under it.
+/// Called just before a render starts, since its target can have come into use after it was made. Where a
+/// running render writes that file, the file loses its name: that render writes on into it unnamed, and this
+/// one gets a new file under the name. Where that fails, or the target is an input by now, its path in
+/// `state` becomes empty.
 void claimTarget(AppStateRecord& state);
 
 /// Keeps source and target of `state` in use, as those of a running render, while it lives. Renders nest on

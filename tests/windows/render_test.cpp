@@ -125,6 +125,20 @@ TEST_F(Render, NeverEmptiesItsSourceByWhateverName) {
   EXPECT_EQ(useOf(folder.file("link.wav"), AppState), FileUse::Input);
 }
 
+TEST_F(Render, NeverEmptiesThePresetFile) {
+  const std::string presets = support::writeText(folder, "AppPresets.ini", "presets");
+  saveAs(presets);
+  clickAndAnswer(Form3->Command1(0), presets);
+  EXPECT_EQ(support::readFile(presets), "presets");
+}
+
+TEST_F(Render, ATargetThatARunningOneWritesAndThatKeepsItsNameIsNone) {
+  AppState.SavePathShort = "/dev/null";
+  const RunningRender inUse(AppState);
+  claimTarget(AppState);
+  EXPECT_EQ(AppState.SavePathShort, "");
+}
+
 TEST_F(Render, AFileThatItReadsOrWritesIsNotEmptiedMeanwhile) {
   renderMeanwhile(target, [this] {
     saveAs(target);

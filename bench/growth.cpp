@@ -75,7 +75,7 @@ Cost profile(double bytes) {
   file.close();
   return costOf([] {
     platform::writeProfileString("Preset#1", "Frequency", "1:2:3", "AppPresets.ini");
-    return platform::profileString("Preset#1", "Frequency", "", 1024, "AppPresets.ini").size();
+    return platform::profileString("Preset#1", "Frequency", "", 1023, "AppPresets.ini").size();
   });
 }
 

@@ -12,11 +12,14 @@
 /// The line of a preset with these positions of the band sliders; the other fields come from `state`.
 std::string presetLine(std::span<const int> positions, const AppStateRecord& state);
 
-/// The parts of `line` between its colons; one empty part for an empty line.
-std::vector<std::string_view> presetElements(std::string_view line);
+/// What a preset line holds, as views of it. A field whose marker is missing is empty, or none.
+struct Preset {
+  /// Between the colons: the positions of the bands come first. One empty element for an empty line.
+  std::vector<std::string_view> elements;
+  /// Option indices as text.
+  std::string_view range, lowCut;
+  /// Slider positions.
+  std::optional<long long> bandWidth, gain;
+};
 
-/// At most `count` characters after the first `marker` of `line`, in any case; empty without a marker.
-std::string_view presetField(std::string_view line, std::string_view marker, std::size_t count);
-
-/// Gain slider position for a stored percentage: the twentieth part, rounded. None where there is no number.
-std::optional<long long> gainPosition(std::string_view percent);
+Preset readPreset(std::string_view line);

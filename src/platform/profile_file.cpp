@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <initializer_list>
+#include <optional>
 #include <system_error>
 
 #include "platform/descriptor.h"
@@ -82,15 +83,10 @@ void insertLine(std::string& text, std::size_t at, std::string line) {
   text.insert(at, line.append(kLineEnd));
 }
 
-/// Puts the key's new value into `text`, or takes its line out. False where nothing is to change.
-bool compose(std::string& text, std::string_view section, std::string_view key,
-             std::optional<std::string_view> value) {
+/// Puts the key's new value into `text`.
+void setKey(std::string& text, std::string_view section, std::string_view key, std::string_view value) {
   const Place place = findKey(text, section, key);
-  if (!value) {
-    text.erase(place.keyBegin, place.keyEnd - place.keyBegin);
-    return place.hasKey;
-  }
-  const std::string line = std::string(key).append("=").append(*value);
+  const std::string line = std::string(key).append("=").append(value);
   if (place.hasKey) {
     const std::string_view old = std::string_view(text).substr(place.keyBegin, place.keyEnd - place.keyBegin);
     const std::size_t lineEnd = old.ends_with(kLineEnd) ? 2 : old.ends_with('\n') ? 1 : 0;
@@ -101,7 +97,6 @@ bool compose(std::string& text, std::string_view section, std::string_view key,
     const std::string header = std::string("[").append(section).append("]").append(kLineEnd);
     insertLine(text, text.size(), header + line);
   }
-  return true;
 }
 
 /// The file's whole text and what else there is to know of it.
@@ -184,7 +179,7 @@ std::string_view withoutQuotes(std::string_view value) {
 }  // namespace
 
 std::string profileString(std::string_view section, std::string_view key, std::string_view defaultText,
-                          std::size_t bufferSize, std::string_view file) {
+                          std::size_t mostBytes, std::string_view file) {
   const std::optional<Contents> contents = readContents(nativePath(file), O_RDONLY);
   const std::string_view text = contents ? std::string_view(contents->text) : std::string_view();
   const Place place = findKey(text, section, key);
@@ -193,19 +188,20 @@ std::string profileString(std::string_view section, std::string_view key, std::s
     const std::string_view line = text.substr(place.keyBegin, place.keyEnd - place.keyBegin);
     value = withoutQuotes(trimmed(line.substr(line.find('=') + 1)));
   }
-  return std::string(value.substr(0, std::max<std::size_t>(bufferSize, 1) - 1));
+  return std::string(value.substr(0, mostBytes));
 }
 
-bool writeProfileString(std::string_view section, std::string_view key, std::optional<std::string_view> value,
+bool writeProfileString(std::string_view section, std::string_view key, std::string_view value,
                         std::string_view file) {
-  for (const std::string_view part : {section, key, value.value_or("")})
+  for (const std::string_view part : {section, key, value})
     if (part.find_first_of("\r\n") != std::string_view::npos) return false;
   const fs::path target = linkTarget(nativePath(file));
   // Opened for writing too, although a rename needs no such right: what is read-only stays as it is.
   const std::optional<Contents> old = readContents(target, O_RDWR);
   if (!old) return false;
   std::string text = old->text;
-  return !compose(text, section, key, value) || replaceFile(target, *old, text);
+  setKey(text, section, key, value);
+  return replaceFile(target, *old, text);
 }
 
 }  // namespace platform

@@ -13,8 +13,8 @@
 namespace {
 
 constexpr auto kKey = "Frequency";
-/// Characters of a line that a load reads, and one more.
-constexpr std::size_t kLineBuffer = 1024;
+/// More of a line a load does not read.
+constexpr std::size_t kMostBytes = 1023;
 
 std::string sectionName(int preset) {
   return "Preset#" + std::to_string(preset);
@@ -33,20 +33,6 @@ void select(forms::ControlArray<forms::OptionButton>& options, std::string_view 
     options(chosen).setValue(true);
   }
 }
-
-/// What a preset line holds, read once for all passes.
-struct Preset {
-  explicit Preset(std::string_view line)
-      : elements(presetElements(line)),
-        range(presetField(line, "Range=", 1)),
-        lowCut(presetField(line, "LowCut=", 1)),
-        bandWidth(wholeNumber(presetField(line, "BandWidth=", 3))),
-        gain(gainPosition(presetField(line, "AudioGain=", 4))) {}
-
-  std::vector<std::string_view> elements;
-  std::string_view range, lowCut;
-  std::optional<long long> bandWidth, gain;
-};
 
 /// Applies the marked fields of `preset`, and to band number `pass` its element.
 void applyPass(const Preset& preset, int pass) {
@@ -76,8 +62,8 @@ void SavePreset() {
 void LoadPreset(int PresetIndex) {
   AppState.PresetPass = 0;
   const std::string line =
-      platform::profileString(sectionName(PresetIndex), kKey, "1", kLineBuffer, AppState.PresetFilePath);
-  const Preset preset(line);
+      platform::profileString(sectionName(PresetIndex), kKey, "1", kMostBytes, AppState.PresetFilePath);
+  const Preset preset = readPreset(line);
   // A pass a character: no line has more elements. What is applied again changes nothing.
   for (int pass = 0; pass < static_cast<int>(line.size()); ++pass) applyPass(preset, pass);
   Form1->Label7(7).setCaption("Selected Frequency Value:  0db");

@@ -20,7 +20,7 @@ void require(bool holds, const std::string& rule) {
 }
 
 std::string stored(const char* section) {
-  return platform::profileString(section, "Frequency", "1", 1024, AppState.PresetFilePath);
+  return platform::profileString(section, "Frequency", "1", 1023, AppState.PresetFilePath);
 }
 
 void profile(const std::string& text) {

@@ -6,21 +6,6 @@
 
 namespace {
 
-using Arguments = std::vector<std::string>;
-
-TEST(CommandLine, SplitsAtBlanksAndTabsOutsideQuotes) {
-  const std::pair<std::string_view, Arguments> cases[] = {
-      {" \t ", {}},
-      {"  a b\tc ", {"a", "b", "c"}},
-      {"x\"a b\"y,\"c\td\" z", {"xa by,c\td", "z"}},
-      {"\"\" a\"\"b \"a\"\"b\" \"\"\"\"", {"", "ab", "a\"b", "\""}},
-      {"\"a b", {"a b"}},
-      {"a\\ b\\\"c d\" 'e f' $x *\n", {"a\\", "b\\c d", "'e", "f'", "$x", "*\n"}},
-  };
-  for (const auto& [line, expected] : cases)
-    EXPECT_EQ(platform::splitArguments(line), expected) << "of <" << line << ">";
-}
-
 TEST(CommandLine, FindsThePrograms) {
   const support::OwnFolder own;
   const std::string& folder = own.path();
@@ -29,7 +14,7 @@ TEST(CommandLine, FindsThePrograms) {
        {std::pair{"\\ffmpeg.exe", "/ffmpeg"}, {"/ffprobe", "/ffprobe.exe"}, {"\\both.exe", "/both.exe"}}) {
     const platform::Command command = platform::parseCommand(folder + name + "\t-y  -i");
     EXPECT_EQ(command.program, folder + program) << name;
-    EXPECT_EQ(command.arguments, (Arguments{folder + name, "-y", "-i"}));
+    EXPECT_EQ(command.arguments, (std::vector<std::string>{folder + name, "-y", "-i"}));
   }
   EXPECT_EQ(platform::parseCommand("\"" + folder + "\"/ffmpeg").program, folder + "/ffmpeg");
   EXPECT_EQ(platform::parseCommand("\\bin\\\"sh.exe\"").program, "/bin/sh");

@@ -13,10 +13,10 @@ namespace fs = std::filesystem;
 
 class ProfileFile : public testing::Test {
  protected:
-  static std::string read(const std::string& file, std::size_t size = 1024) {
+  static std::string read(const std::string& file, std::size_t size = 1023) {
     return platform::profileString("Preset#1", "Frequency", "default", size, file);
   }
-  static bool write(const std::string& file, std::optional<std::string_view> value) {
+  static bool write(const std::string& file, std::string_view value) {
     return platform::writeProfileString("Preset#1", "Frequency", value, file);
   }
 
@@ -37,7 +37,7 @@ TEST_F(ProfileFile, Reads) {
   for (const auto& [content, expected] : cases) {
     const std::string file = support::writeText(own_, "file", content);
     EXPECT_EQ(read(file), expected) << "of\n" << content;
-    EXPECT_EQ(read(file, 4), expected.substr(0, 3)) << "of\n" << content;
+    EXPECT_EQ(read(file, 3), expected.substr(0, 3)) << "of\n" << content;
   }
 }
 
@@ -46,7 +46,7 @@ TEST_F(ProfileFile, WritesOneLineAndLeavesAllOthers) {
   const struct {
     std::string before;
     std::string after;
-    std::optional<std::string_view> value = "1";
+    std::string_view value = "1";
   } cases[] = {
       {"", "[Preset#1]\r\nFrequency=1\r\n"},
       {";", ";\r\n[Preset#1]\r\nFrequency=1\r\n"},
@@ -56,8 +56,6 @@ TEST_F(ProfileFile, WritesOneLineAndLeavesAllOthers) {
       {"[Preset#1]\r\nFrequency=0\r\n\r\n[A]\r\n", "[Preset#1]\r\nFrequency=1\r\n\r\n[A]\r\n"},
       {"[Preset#1]\nx\n;y\n\n[A]\nFrequency=2\n", "[Preset#1]\nx\n;y\nFrequency=1\r\n\n[A]\nFrequency=2\n"},
       {large + "[Preset#1]\nFrequency=0\n" + large, large + "[Preset#1]\nFrequency=1\n" + large},
-      {"[Preset#1]\nx=y\nFrequency=0\nFrequency=2", "[Preset#1]\nx=y\nFrequency=2", std::nullopt},
-      {"[A]\nFrequency=0\n", "[A]\nFrequency=0\n", std::nullopt},
       {"[Preset#1]\nFrequency=0\n", "[Preset#1]\nFrequency=0\n", "1\n[A]"},
   };
   for (const auto& [before, after, value] : cases) {

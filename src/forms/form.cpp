@@ -59,8 +59,8 @@ void Form::makeTabOrder() {
   }
 }
 
-/// A hidden control, or a line, like member 0 of its array; with null, in the same container.
-std::unique_ptr<Item> Form::makeLikeFirst(const char* name, int index, const char* container) {
+/// A hidden control, or a line, like member 0 of its array.
+std::unique_ptr<Item> Form::makeLikeFirst(const char* name, int index) {
   const auto isFirst = [name](const auto& row) {
     return row.index == 0 && std::string_view(row.name) == name;
   };
@@ -68,18 +68,16 @@ std::unique_ptr<Item> Form::makeLikeFirst(const char* name, int index, const cha
     ControlData row = *first;
     row.index = index;
     row.properties.hidden = true;
-    if (container != nullptr) row.container = container;
     return makeControl(*this, row);
   }
   LineData row = *std::ranges::find_if(data_.lines, isFirst);
   row.index = index;
   row.visible = false;
-  if (container != nullptr) row.container = container;
   return std::make_unique<Line>(*this, row);
 }
 
 void Form::loadMember(const char* name, int index) {
-  put(name, index, makeLikeFirst(name, index, nullptr));
+  put(name, index, makeLikeFirst(name, index));
   const Items& members = items_[name];
   const auto* made = dynamic_cast<const Control*>(members[slot(index)].get());
   if (made == nullptr) return;

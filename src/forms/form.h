@@ -37,7 +37,7 @@ class Form : public FormWindow {
 
   void put(const char* name, int index, std::unique_ptr<Item> item);
   void makeTabOrder();
-  std::unique_ptr<Item> makeLikeFirst(const char* name, int index, const char* container);
+  std::unique_ptr<Item> makeLikeFirst(const char* name, int index);
   void loadMember(const char* name, int index);
 
   const FormData& data_;
@@ -45,19 +45,16 @@ class Form : public FormWindow {
   std::map<std::string, Items, std::less<>> items_;
 };
 
-/// The members of one name on one form. An index without a member is a fault of the program; where assertions
-/// are off, it gives a hidden spare member.
+/// The members of one name on one form. To ask for an index without a member is a fault of the program.
 template <class T>
 class ControlArray {
  public:
   ControlArray(Form& form, const char* name) : form_(form), name_(name), items_(form.items_[name]) {}
 
   T& operator()(int index) {
-    if (Item* member = find(index)) return static_cast<T&>(*member);
-    assert(false && "an array has no member of this index");
-    // On the form itself, where it gets into no group of real option buttons.
-    if (!spare_) spare_ = form_.makeLikeFirst(name_, kSingle, "");
-    return static_cast<T&>(*spare_);
+    Item* member = find(index);
+    assert(member != nullptr);
+    return static_cast<T&>(*member);
   }
 
   /// Number of members, gaps not counted.
@@ -88,7 +85,6 @@ class ControlArray {
   Form& form_;
   const char* name_;
   Form::Items& items_;
-  std::unique_ptr<Item> spare_;
 };
 
 /// The window comes into being, hidden, the first time anything refers to it, and again after an unload. A

@@ -8,7 +8,6 @@
 const std::string& DOSOutputs::ExecuteCommand(const std::string& CommandLine) {
   static const std::string kNothing;
   if (!CommandLine.empty()) mCommand = CommandLine;
-  if (mCommand.empty()) return kNothing;
   platform::ChildProcess child;
   if (!child.start(mCommand)) return kNothing;
 

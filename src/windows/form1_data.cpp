@@ -52,6 +52,9 @@ constexpr ControlData kControls[] = {
     {Kind::Label, "Label4", 0, "Picture1(1)", 12000, 240, 855, 255, 18, "< Gain >", kCentred},
     {Kind::Label, "Label4", 1, "Picture1(1)", 10560, 240, 1215, 255, 19, "Decrease [ - ]"},
     {Kind::Label, "Label4", 2, "Picture1(1)", 13320, 240, 1095, 255, 20, "[ + ] Increase", {.alignment = Alignment::Right}},
+    {Kind::Label, "Label4", 3, "Picture1(1)", 11610, 1080, 1755, 210, 21, "Gain:100%", {.alignment = Alignment::Centre, .transparent = true, .autoSize = true}},
+    // Over the labels, which reach a pixel into it.
+    {Kind::TextBox, "Text1", kSingle, "Picture1(1)", 0, 0, 14895, 255, 22, "<%InputFile%>", {.fore = kWindowText}, "Source file"},
     // Option panel.
     {Kind::Label, "Label3", 0, "Picture1(2)", 0, 0, 1815, 255, 10, "Presets", kTitle},
     {Kind::Label, "Label5", kSingle, "Picture1(2)", 0, 240, 1815, 255, 31, "", {.back = kLightGrey}},
@@ -80,10 +83,6 @@ constexpr ControlData kControls[] = {
     {Kind::Label, "Label7", 5, "Picture4", 11040, 120, 2535, 255, 47, "Gain Settings 100% Of Source", kClearReadOut},
     {Kind::Label, "Label7", 6, "Picture4", 8760, 120, 2055, 255, 53, "Current Bandwidth: 001 Hz", kClearReadOut},
     {Kind::Label, "Label7", 7, "Picture4", 13680, 120, 2535, 255, 55, "Selected Frequency Value:  0db", kRightReadOut},
-    // Both measure their text when they are made, and the fonts come late. Text1 lies over the labels, which reach a
-    // pixel into it.
-    {Kind::Label, "Label4", 3, "Picture1(1)", 11610, 1080, 1755, 210, 21, "Gain:100%", {.alignment = Alignment::Centre, .transparent = true, .autoSize = true}},
-    {Kind::TextBox, "Text1", kSingle, "Picture1(1)", 0, 0, 14895, 255, 22, "<%InputFile%>", {.fore = kWindowText}, "Source file"},
 };
 
 // Name, index, container; the two ends in twips; colour; width in pixels.

@@ -3,7 +3,6 @@
 #include "core/eq_string.h"
 #include "core/text.h"
 #include "forms/application.h"
-#include "windows/form1.h"
 
 forms::DefaultInstance<EqStringWindow> Form3;
 

@@ -18,7 +18,7 @@ void MainWindow::HighlightBandLabel(int Index) {
 void MainWindow::Form_MouseMove() {
   if (!Label6.visible()) return;
   Label6.setVisible(false);
-  for (int i = 0; i < Slider1.count(); ++i) Label1(i).setForeColor(kBlack);
+  HighlightBandLabel(-1);
 }
 
 void MainWindow::Label4_MouseMove(int Index) {

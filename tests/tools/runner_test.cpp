@@ -30,7 +30,6 @@ class Runner : public testing::Test {
 TEST_F(Runner, HandsOnPiecesOf256BytesAndAnEmptyOneAtTheEnd) {
   const auto runner = start("head -c 300 /dev/zero | tr '\\0' x >&2");
   EXPECT_EQ(runner->ExecuteCommand(), std::string(300, 'x'));
-  EXPECT_EQ(runner->Outputs(), std::string(300, 'x'));
   EXPECT_EQ(pieces, (std::vector<std::string>{std::string(256, 'x'), std::string(44, 'x'), ""}));
   EXPECT_EQ(runner->ExecuteCommand(), std::string(300, 'x')) << "the second run alone";
 }

@@ -6,9 +6,9 @@
 
 #include "core/band_table.h"
 
-/// What the controls stand for, kept up to date by their events.
+/// What the controls stand for, kept up to date by their events, and what files are in use.
 struct AppStateRecord {
-  std::string EqString;                          ///< the filter chain as last composed
+  std::string EqString;                          ///< the filter chain as last composed, empty at start
   std::array<std::string, kBands> BandGainText;  ///< what goes after `g=`, in dB
   int BandWidth = 0;                             ///< 1 to 254, octaves in the chain
   double AudioGain = 0;                          ///< linear factor, -2 to 2 in steps of 0.2

@@ -22,16 +22,17 @@ class Application {
   /// Serves all events that are pending and returns.
   static void doEvents();
 
-  /// Waits until `descriptor` has something to read or its other end is closed, at most `milliseconds`
-  /// (negative: without limit; 0: serves what is pending). Meanwhile windows repaint and answer the desktop,
-  /// while input and events of the program wait until it is over.
+  /// The paint-only wait: until `descriptor` has something to read or its other end is closed, at most
+  /// `milliseconds` (negative: without limit; 0: serves what is pending). Meanwhile windows repaint and
+  /// answer the desktop, while input and events of the program are kept until it is over.
   static void waitPainting(int descriptor, int milliseconds);
 
-  /// True inside `waitPainting` and once `end` has begun: no handler of the program may run.
+  /// True inside `waitPainting` and once `end` has begun: no handler of the program may run, but those of the
+  /// main window's closing.
   static bool isDeferring();
 
-  /// Runs `action` at once or, while deferring, in the event loop after the wait; of several with the same
-  /// `event` the first alone.
+  /// Runs `action` at once or, while deferring, in the event loop after the wait; a second one for the same
+  /// `event` is dropped.
   static void runOrDefer(const Event& event, const std::function<void()>& action);
 
   /// Ends the process at once; no handler runs any more. The clipboard's text is handed to the desktop first.

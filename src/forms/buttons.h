@@ -33,7 +33,7 @@ class OptionButton : public Control {
   Event onClick;
 
  private:
-  /// Of those that were chosen one after the other in a paint-only wait, the last one counts.
+  /// The accessibility bus can choose several in one paint-only wait: the last one counts.
   bool mayRun(const Event& event) const override { return &event != &onClick || value(); }
 
   /// The click that is served has selected it.

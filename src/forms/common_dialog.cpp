@@ -81,7 +81,7 @@ void CommonDialog::show(bool save) {
   if (filterIndex_ >= 1 && filterIndex_ <= filters.size()) dialog.selectNameFilter(filters[filterIndex_ - 1]);
   dialog.setDirectory(toQt(initDir_));
   dialog.widenFilter();
-  // Handlers that run while the dialog is open can set the name.
+  // A render's tick goes on in the dialog's event loop and serves events: their handlers can set the name.
   const std::string asked = fileName_;
   fileName_ = dialog.exec() == QDialog::Accepted ? fromQt(dialog.chosen) : asked;
   if (before) before->activateWindow();

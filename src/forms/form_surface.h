@@ -44,7 +44,7 @@ class FormSurface : public Surface {
 
   const FormData& data_;
   QSize assigned_{0, 0};
-  QMargins frame_;                ///< the frame that the size was asked for with
+  QMargins frame_;                ///< the frame that the last requested size allows for
   std::optional<QPoint> centre_;  ///< the middle of the window, until it has its frame
   QSize told_;                    ///< the size that the form knows of, invalid while it is minimised
 };

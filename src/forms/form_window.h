@@ -1,4 +1,4 @@
-// A window of the program, without what stands on it.
+// A window of the program, without what stands on it. The widget that is shown is its `FormSurface`.
 #pragma once
 
 #include <functional>
@@ -33,7 +33,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   bool minimised() const;
 
   bool isLoaded() const { return forget_ != nullptr; }
-  /// Shows the window, in the middle of its owner or of the screen, or brings it forward.
+  /// Shows the window, in the middle of its owner or of the screen, or brings it forward. No other window is
+  /// blocked by it.
   void show(const FormWindow* owner = nullptr);
   /// Raises QueryUnload and Unload and takes the window away. Inside an unload it does nothing.
   void unload();

@@ -14,8 +14,8 @@ enum class Receiver { Window, Widget, Slider };
 
 enum class Fate {
   Kept,    ///< served after the wait, in its turn
-  Taken,   ///< nobody gets it, and Qt believes that it was used
-  Refused  ///< nobody gets it, and Qt believes that it was not
+  Taken,   ///< dropped; Qt believes that it was used
+  Refused  ///< dropped; Qt believes that it was not used
 };
 
 struct Rule {
@@ -113,8 +113,8 @@ bool HeldInput::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void HeldInput::keep(QObject* receiver, const QEvent& event) {
-  // A slider's timer comes again. It must not come behind a release that is yet to stop it: Qt may have given
-  // its number to the timer of a later press by then.
+  // A slider's timer comes again. It must not come after a release that is yet to stop it: Qt may have given
+  // the timer's number to that of a later press by then.
   const auto isReleaseOrTimer = [](const Held& held) {
     return held.event->type() == QEvent::MouseButtonRelease || held.event->type() == QEvent::Timer;
   };

@@ -34,7 +34,7 @@ class HeldInput : public QObject {
   struct Held {
     QPointer<QObject> receiver;
     std::unique_ptr<QEvent> event;
-    /// Of a mouse event: Qt moves its point, copies included, along with the mouse.
+    /// Those of a mouse event: Qt moves the event's own along with the mouse, in copies too.
     QPointF place, scenePlace, globalPlace;
   };
 
@@ -43,7 +43,7 @@ class HeldInput : public QObject {
 
   bool holding_ = false;
   std::deque<Held> held_;
-  const QEvent* served_ = nullptr;
+  const QEvent* served_ = nullptr;  ///< is being delivered, so that the filter lets it through
 };
 
 }  // namespace forms

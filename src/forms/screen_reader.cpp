@@ -85,7 +85,7 @@ class SpokenSlider : public QAccessibleWidget, public QAccessibleValueInterface 
   QSlider* slider_;
 };
 
-/// Of a widget of no size, whose name a screen reader is to say.
+/// Object name of the widget of no size whose accessible name a screen reader is to say.
 constexpr auto kAnnouncement = "announcement";
 
 QAccessibleInterface* makeSpoken(const QString& /*kind*/, QObject* object) {
@@ -185,7 +185,7 @@ void tellAnnouncements(const Widgets& widgets) {
 
 void serveScreenReaders() {
   QAccessible::installFactory(makeSpoken);
-  // Of a value on its way several a second are enough.
+  // While a slider moves, a few values a second are enough.
   changed = new Collector(300, tellChanges);
   // After what a reader says about the focus, and once for keys that repeat.
   announced = new Collector(500, tellAnnouncements);

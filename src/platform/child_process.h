@@ -25,8 +25,9 @@ void setWaitHook(WaitHook hook);
 /// No shell is involved.
 ///
 /// The child starts on one processor: FFmpeg sizes the thread pool of a filter graph by the processors it may
-/// use, and many small filters then spend their time in handshakes. Half a second later all its threads may
-/// use every processor that this process may use. Where the system refuses either, nothing else changes.
+/// use, and many small filters then spend their time in handshakes. At the first read after half a second all
+/// its threads get every processor that this process may use; a child that nobody reads stays on one. Where
+/// the system refuses either, nothing else changes.
 class ChildProcess {
  public:
   /// Starts `commandLine` (see `parseCommand`). False where no child could be started.

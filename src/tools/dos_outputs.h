@@ -7,8 +7,8 @@
 
 class RunnerVariable;
 
-/// Runs one command line as a hidden child and hands on what it prints, standard output and standard error
-/// together, while it reads. There is no way to stop a run, and its outcome is not looked at.
+/// A runner: runs one command line as a hidden child and hands on what it prints, standard output and
+/// standard error together, while it reads. There is no way to stop a run, and its outcome is not looked at.
 class DOSOutputs {
  public:
   void setCommandLine(const std::string& DosCommand) { mCommand = DosCommand; }
@@ -33,8 +33,8 @@ class DOSOutputs {
 };
 
 /// A form's variable for a runner, which connects the runner's `ReceiveOutputs` to the form's handler.
-/// Another runner, none, or the end of the variable cuts the connection at once, also inside the handler; the
-/// run itself goes on for as long as its caller holds the runner.
+/// Setting another runner, `clear` and the end of the variable disconnect at once, also inside the handler;
+/// the run itself goes on for as long as its caller holds the runner.
 class RunnerVariable {
  public:
   /// The handler may change the text, which is a copy made for this one call.

@@ -42,7 +42,7 @@ std::optional<int> secondsOfTime(std::string_view text) {
   return (hours * 60 + minutes) * 60 + seconds;
 }
 
-void blankLineEnds(std::string& output) {
+void lineEndsToBlanks(std::string& output) {
   for (auto at = output.find("\r\n"); at != std::string::npos; at = output.find("\r\n", at)) {
     output.erase(at, 1);
     output[at] = ' ';
@@ -62,7 +62,7 @@ std::optional<std::string> durationSecondsOfRun(std::string_view output) {
        at = output.find(kDuration, at + kDuration.size())) {
     // A tool may print more than there is memory for a second time: only what matters is copied.
     std::string piece(output.substr(at, kDuration.size() + kLineEnd + kTimeLength));
-    blankLineEnds(piece);
+    lineEndsToBlanks(piece);
     found = durationSeconds(piece);
   }
   return found;

@@ -9,7 +9,7 @@
 std::optional<int> secondsOfTime(std::string_view text);
 
 /// Each carriage return with its line feed becomes one blank.
-void blankLineEnds(std::string& output);
+void lineEndsToBlanks(std::string& output);
 
 /// Whole seconds after the first "Duration:" of `output`, as decimal digits, or the empty text where no time
 /// stands there. None without a "Duration:".

@@ -14,8 +14,8 @@ inline constexpr forms::Color kGrey = 0x808080;
 inline constexpr forms::Color kLightGrey = 0xC0C0C0;
 inline constexpr forms::Color kPaleGrey = 0xE0E0E0;
 
-/// Of the bar of a band at position `value`, where `min`, below 0, is that of the strongest boost. A cut is
-/// always green; in the wide range a boost is red from 11 dB on.
+/// Of a band's bar at slider position `value`; `min`, below 0, is the strongest boost. A cut is always green;
+/// in the wide range a boost is red from 11 dB on.
 inline forms::Color barColor(int value, int min) {
   if (value > min / 2.0) return kPaleGreen;
   if (value > min / 1.1) return kPaleYellow;

@@ -40,11 +40,10 @@ MainWindow::MainWindow()
 }
 
 void MainWindow::Form_Load() {
-  // Qt's sliders show no value beside the thumb: there is no tip to switch off.
   Slider2_change();
 }
 
-// `CleanUnload` never returns: the other two handlers are not reached.
+// `CleanUnload` never returns: `Form_Unload` and `Form_Terminate` are not reached.
 void MainWindow::Form_QueryUnload() {
   CleanUnload();
 }
@@ -60,6 +59,7 @@ void MainWindow::Form_Terminate() {
 void MainWindow::Form_Resize() {
   AppState.WindowMinimised = minimised();
   if (AppState.WindowMinimised) return;
+  // Outer sizes, with the frame.
   setWidth(17550);
   setHeight(5415);
 }

@@ -19,6 +19,7 @@ RenderWindow::RenderWindow()
 }
 
 void RenderWindow::Form_Load() {
+  // Outer sizes, with the frame.
   setHeight(3420);
   setWidth(6900);
   PBar.setMax(static_cast<double>(wholeNumber(AppState.SourceSeconds).value_or(0)));
@@ -32,6 +33,7 @@ void RenderWindow::Command1_Click() {
 void RenderWindow::Timer1_Timer() {
   objDOS.set(std::make_shared<DOSOutputs>());
   DosCommand();
+  // No tick comes while this handler runs.
   Timer1.setEnabled(false);
 }
 
@@ -51,7 +53,7 @@ void RenderWindow::DosCommand() {
 
 void RenderWindow::objDOS_ReceiveOutputs(const std::string& CommandOutputs) {
   forms::Application::doEvents();
-  // The events just served can have closed this window; the rest of the run then shows nowhere.
+  // The events just served can have closed this window, which lives until the tick ends.
   if (!isLoaded()) return;
   const std::string_view time = progressTime(CommandOutputs);
   if (time.empty()) return;
@@ -61,5 +63,6 @@ void RenderWindow::objDOS_ReceiveOutputs(const std::string& CommandOutputs) {
   if (const auto seconds = secondsOfTime(time)) PBar.setValue(*seconds);
   const std::string percent = percentText(value, max);
   Label1(2).setCaption("Progress: " + percent + "% Completed");
+  // The title stays so after the render.
   Form1->setCaption(AppState.WindowMinimised ? "Velm:  " + percent + "%" : "No Caption Set");
 }

@@ -4,8 +4,8 @@
 #include "forms/form.h"
 #include "tools/dos_outputs.h"
 
-/// One load starts one render, a second later. A window that is closed before that starts none; one that is
-/// closed later leaves it running.
+/// One load starts one render, a second later, to the target that was named last. A window that is closed
+/// before that starts none; one that is closed later leaves it running.
 class RenderWindow : public forms::Form {
  public:
   RenderWindow();

@@ -44,7 +44,7 @@ void MainWindow::GetSourceDuration() {
 void MainWindow::objDOS_ReceiveOutputs(std::string& CommandOutputs) {
   const std::string measured = AppState.SourcePathShort;
   forms::Application::doEvents();
-  blankLineEnds(CommandOutputs);
+  lineEndsToBlanks(CommandOutputs);
   // The events just served can have chosen another source, of which this piece tells nothing.
   const auto seconds = durationSeconds(CommandOutputs);
   if (seconds && AppState.SourcePathShort == measured) AppState.SourceSeconds = *seconds;

@@ -17,6 +17,7 @@ press() { # CONTROL KEY...: with the focus there, by as many Tabs as it takes.
   until name=$(focus) && [ "$name" = "$1" ]; do keys Tab && wait_for focus_left "$name"; done
   keys "${@:2}"
 }
+close_window_of() { press Close Return && wait_for has_focus "$1"; } # BUTTON: has opened it.
 
 start_desktop
 real_tool ffprobe
@@ -48,10 +49,10 @@ wait_for heard "accessible-value 0 slider|19hz|dB|-1" # What a preset that was n
 press "Save As" space
 answer "$folder/out.wav"
 wait_for progress_heard # Whichever value: on a busy machine the bar has gone on before it is asked.
-press Close Return
+close_window_of "Save As"
 press "FFmpeg EQ String" space
 wait_for heard "FFmpeg Equalizer String: text|Filter chain|"
-press Close Return
+close_window_of "FFmpeg EQ String"
 press "EQ String > Clipboard" space
 wait_for heard "showing 1 notification|Data On Clipboard|"
 for control in "slider|Gain|%|100" "radio button|plus or minus 12 dB|"; do

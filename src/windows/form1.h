@@ -33,8 +33,8 @@ class MainWindow : public forms::Form {
   forms::Timer& Timer3 = control<forms::Timer>("Timer3");
   forms::CommonDialog& CDialog = control<forms::CommonDialog>("CDialog");
 
-  /// The runner of the probe or of the preview. Its handler gets the first piece alone, so that
-  /// no event is served during a preview.
+  /// The runner of the probe or of the preview. Its handler gets the first piece alone: after that a preview
+  /// serves no event.
   RunnerVariable objDOS;
 
   /// Makes the members of the band arrays from the second on, and gives all 32 bands their places and

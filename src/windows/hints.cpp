@@ -18,7 +18,7 @@ void MainWindow::HighlightBandLabel(int Index) {
 void MainWindow::Form_MouseMove() {
   if (!Label6.visible()) return;
   Label6.setVisible(false);
-  HighlightBandLabel(-1);
+  HighlightBandLabel(-1);  // none
 }
 
 void MainWindow::Label4_MouseMove(int Index) {

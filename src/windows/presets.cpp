@@ -13,7 +13,7 @@
 namespace {
 
 constexpr auto kKey = "Frequency";
-/// More of a line a load does not read.
+/// What a load reads of a line at most.
 constexpr std::size_t kMostBytes = 1023;
 
 std::string sectionName(int preset) {
